@@ -1,0 +1,27 @@
+#include "VantrelKit/ChromiumPreferences.h"
+
+#include "VantrelKit/JsonFile.h"
+
+namespace vantrel {
+
+std::optional<ChromiumPreferences> ChromiumPreferences::read(const QString &path)
+{
+    const auto content = json::readFile(path);
+    simdjson::dom::parser parser;
+    simdjson::dom::object root;
+    if (!content || parser.parse(*content).get(root) != simdjson::SUCCESS)
+        return std::nullopt;
+
+    ChromiumPreferences preferences;
+    simdjson::dom::object profile;
+    switch (json::member(root, "profile", profile)) {
+    case json::Member::absent: return preferences;
+    case json::Member::mistyped: return std::nullopt;
+    case json::Member::present: break;
+    }
+    if (!json::readText(profile, "name", preferences.name))
+        return std::nullopt;
+    return preferences;
+}
+
+} // namespace vantrel

@@ -1,0 +1,26 @@
+# What holds for every target of our own, and for no library that we use: all warnings are errors, includes start at the
+# root ("VantrelKit/Profile.h"), Qt's keywords and its implicit conversions from bytes are off.
+function(vantrel_own_target target)
+  target_include_directories(${target} PRIVATE ${PROJECT_SOURCE_DIR})
+  target_compile_options(${target} PRIVATE
+    -Wall -Wextra -Wpedantic -Wconversion -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual
+    -Wimplicit-fallthrough -Werror)
+  target_compile_definitions(${target} PRIVATE
+    QT_NO_KEYWORDS QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_CAST_FROM_BYTEARRAY QT_NO_URL_CAST_FROM_STRING
+    QT_NO_FOREACH QT_STRICT_ITERATORS QT_USE_QSTRINGBUILDER QT_NO_NARROWING_CONVERSIONS_IN_CONNECT)
+  if(VANTREL_SANITIZE)
+    target_compile_options(${target} PRIVATE -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
+    target_link_options(${target} PUBLIC -fsanitize=address,undefined)
+  endif()
+  if(VANTREL_LINK_TIME_OPTIMIZATION)
+    set_target_properties(${target} PROPERTIES INTERPROCEDURAL_OPTIMIZATION ON)
+  endif()
+endfunction()
+
+# A static library of a module: `vantrel_module(VantrelKit SOURCES … LINKS …)`.
+function(vantrel_module target)
+  cmake_parse_arguments(PARSE_ARGV 1 module "" "" "SOURCES;PUBLIC;PRIVATE")
+  add_library(${target} STATIC ${module_SOURCES})
+  vantrel_own_target(${target})
+  target_link_libraries(${target} PUBLIC ${module_PUBLIC} PRIVATE ${module_PRIVATE})
+endfunction()
