@@ -18,7 +18,8 @@ struct Texts {
 
 QCollator nameCollator()
 {
-    // Without a language in the environment Qt compares code units and leaves numbers alone: English rules serve better.
+    // Without a language in the environment Qt compares code units and leaves numbers alone: English rules serve
+    // better.
     const QLocale locale;
     QCollator collator(locale.language() == QLocale::C ? QLocale(QLocale::English) : locale);
     collator.setNumericMode(true);

@@ -27,8 +27,8 @@ struct Browser {
 /// The name of the application at a location: its last path component without the extension.
 [[nodiscard]] QString applicationName(const QUrl &application);
 
-/// Safari first, then by name as people order names: without regard to case, numbers by their value. Browsers whose names
-/// are equal by that rule keep their order.
+/// Safari first, then by name as people order names: without regard to case, numbers by their value. Browsers whose
+/// names are equal by that rule keep their order.
 [[nodiscard]] QList<Browser> sortedForDisplay(QList<Browser> browsers);
 
 } // namespace vantrel

@@ -26,6 +26,21 @@ QString chromiumProfileName(const FolderEntry &folder, const ChromiumLocalState:
     return folder.name;
 }
 
+DiscoveredProfile readProfile(const FolderEntry &folder, const QString &dataFolder,
+                              const ChromiumLocalState &localState, const PictureReader &readPicture)
+{
+    const ChromiumLocalState::Info info = localState.infoCache.value(folder.name);
+    DiscoveredProfile profile{chromiumProfileName(folder, info), folder.name};
+    if (readPicture)
+        profile.avatarPNG = chromiumAvatarPNG(folder.path, dataFolder, info.avatarIcon, readPicture);
+    return profile;
+}
+
+ChromiumLocalState readLocalState(const QString &dataFolder)
+{
+    return ChromiumLocalState::read(joinedPath(dataFolder, u"Local State"_s)).value_or(ChromiumLocalState());
+}
+
 } // namespace
 
 qint64 folderRank(const QString &folderName)
@@ -55,18 +70,25 @@ std::expected<QList<DiscoveredProfile>, ProfileDiscoveryError> chromiumProfiles(
         return std::unexpected(entries.error());
     if (!*entries)
         return {};
-    const auto localState =
-        ChromiumLocalState::read(joinedPath(dataFolder, u"Local State"_s)).value_or(ChromiumLocalState());
-
+    const ChromiumLocalState localState = readLocalState(dataFolder);
     QList<DiscoveredProfile> profiles;
-    for (const FolderEntry &folder : chromiumProfileFolders(**entries)) {
-        const ChromiumLocalState::Info info = localState.infoCache.value(folder.name);
-        DiscoveredProfile profile{chromiumProfileName(folder, info), folder.name};
-        if (readPicture)
-            profile.avatarPNG = chromiumAvatarPNG(folder.path, dataFolder, info.avatarIcon, readPicture);
-        profiles.append(profile);
-    }
+    for (const FolderEntry &folder : chromiumProfileFolders(**entries))
+        profiles.append(readProfile(folder, dataFolder, localState, readPicture));
     return profiles;
+}
+
+std::expected<QList<DiscoveredProfile>, ProfileDiscoveryError> chromiumRootProfile(const QString &dataFolder,
+                                                                                   const PictureReader &readPicture)
+{
+    const auto entries = listDataFolder(dataFolder);
+    if (!entries)
+        return std::unexpected(entries.error());
+    if (!*entries)
+        return {};
+    const FolderEntry root{lastPathComponent(dataFolder), dataFolder, true};
+    DiscoveredProfile profile = readProfile(root, dataFolder, readLocalState(dataFolder), readPicture);
+    profile.folder = u"."_s;
+    return QList{profile};
 }
 
 } // namespace vantrel

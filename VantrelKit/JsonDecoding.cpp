@@ -46,14 +46,30 @@ std::expected<QJsonValue, DecodingError> member(const QJsonObject &object, const
     return *found;
 }
 
+std::expected<QString, DecodingError> string(const QJsonValue &value)
+{
+    if (!value.isString())
+        return mismatch(u"a string"_s, value);
+    return value.toString();
+}
+
 std::expected<QString, DecodingError> string(const QJsonObject &object, const QString &name)
 {
     const auto value = member(object, name);
     if (!value)
         return std::unexpected(value.error());
-    if (!value->isString())
-        return mismatch(u"a string"_s, *value, name);
-    return value->toString();
+    const auto text = string(*value);
+    return text ? text : std::unexpected(text.error().below(name));
+}
+
+std::expected<QJsonArray, DecodingError> array(const QJsonObject &object, const QString &name)
+{
+    const auto value = member(object, name);
+    if (!value)
+        return std::unexpected(value.error());
+    if (!value->isArray())
+        return mismatch(u"an array"_s, *value, name);
+    return value->toArray();
 }
 
 std::expected<qint64, DecodingError> integer(const QJsonObject &object, const QString &name)

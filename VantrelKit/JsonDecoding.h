@@ -3,6 +3,7 @@
 #include "VantrelKit/DecodingError.h"
 
 #include <QByteArray>
+#include <QJsonArray>
 #include <QJsonObject>
 #include <QJsonValue>
 #include <QString>
@@ -18,7 +19,10 @@ namespace vantrel::json {
 /// The member of that name; fails when it is missing or null.
 [[nodiscard]] std::expected<QJsonValue, DecodingError> member(const QJsonObject &object, const QString &name);
 
+[[nodiscard]] std::expected<QString, DecodingError> string(const QJsonValue &value);
 [[nodiscard]] std::expected<QString, DecodingError> string(const QJsonObject &object, const QString &name);
+
+[[nodiscard]] std::expected<QJsonArray, DecodingError> array(const QJsonObject &object, const QString &name);
 
 /// A whole number; one with a fraction or beyond 64 bits fails.
 [[nodiscard]] std::expected<qint64, DecodingError> integer(const QJsonObject &object, const QString &name);

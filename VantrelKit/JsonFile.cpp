@@ -24,9 +24,8 @@ bool readText(const simdjson::dom::object &object, std::string_view name, std::o
 {
     std::string_view view;
     const Member found = member(object, name, view);
-    text = found == Member::present
-               ? std::optional(QString::fromUtf8(view.data(), static_cast<qsizetype>(view.size())))
-               : std::nullopt;
+    text = found == Member::present ? std::optional(QString::fromUtf8(view.data(), static_cast<qsizetype>(view.size())))
+                                    : std::nullopt;
     return found != Member::mistyped;
 }
 

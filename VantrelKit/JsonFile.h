@@ -3,16 +3,17 @@
 #include <QByteArray>
 #include <QString>
 
+#include <simdjson.h>
+
 #include <optional>
 #include <string_view>
 
-#include <simdjson.h>
-
-/// Reading of other programs' JSON, which may be large, damaged or of another shape. Included by sources only: it is the
-/// only place that brings in simdjson.
+/// Reading of other programs' JSON, which may be large, damaged or of another shape. Included by sources only: it is
+/// the only place that brings in simdjson.
 namespace vantrel::json {
 
-/// A file's whole content, with the room behind it that the parser needs; none when it isn't a plain file or can't be read.
+/// A file's whole content, with the room behind it that the parser needs; none when it isn't a plain file or can't be
+/// read.
 [[nodiscard]] std::optional<simdjson::padded_string> readFile(const QString &path);
 
 /// What one member of an object holds. Missing and null are the same to the readers of these files.

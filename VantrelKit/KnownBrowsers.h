@@ -8,8 +8,8 @@
 
 namespace vantrel {
 
-/// The fixed catalogue of the browsers that Vantrel works with, by macOS bundle identifier, which is a browser's identity
-/// on every system. Identifiers are compared exactly. Any thread.
+/// The fixed catalogue of the browsers that Vantrel works with, by macOS bundle identifier, which is a browser's
+/// identity on every system. Identifiers are compared exactly. Any thread.
 class KnownBrowsers {
 public:
     KnownBrowsers() = delete;

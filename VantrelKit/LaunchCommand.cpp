@@ -31,23 +31,23 @@ QList<LaunchCommand> LaunchCommand::commands(const QString &browserBundleID, con
         texts.append(linkText(link));
 
     using Commands = QList<LaunchCommand>;
-    return std::visit(
-        Overloaded{
-            [](const ProfileTarget::SafariProfile &) { return Commands(); },
-            [](const ProfileTarget::SafariPrivate &) { return Commands(); },
-            [&texts](const ProfileTarget::Chromium &profile) {
-                return Commands{{QStringList(u"--profile-directory="_s + profile.folder) + texts}};
-            },
-            [&texts, &browserBundleID](const ProfileTarget::ChromiumPrivate &) {
-                const QString option = KnownBrowsers::isEdge(browserBundleID) ? u"--inprivate"_s : u"--incognito"_s;
-                return Commands{{QStringList(option) + texts}};
-            },
-            [&texts](const ProfileTarget::Firefox &profile) {
-                return Commands{{QStringList{u"--profile"_s, profile.path} + texts}};
-            },
-            [&texts](const ProfileTarget::FirefoxPrivate &) { return firefoxPrivateCommands(texts); },
-        },
-        target.value);
+    return std::visit(Overloaded{
+                          [](const ProfileTarget::SafariProfile &) { return Commands(); },
+                          [](const ProfileTarget::SafariPrivate &) { return Commands(); },
+                          [&texts](const ProfileTarget::Chromium &profile) {
+                              return Commands{{QStringList(u"--profile-directory="_s + profile.folder) + texts}};
+                          },
+                          [&texts, &browserBundleID](const ProfileTarget::ChromiumPrivate &) {
+                              const QString option =
+                                  KnownBrowsers::isEdge(browserBundleID) ? u"--inprivate"_s : u"--incognito"_s;
+                              return Commands{{QStringList(option) + texts}};
+                          },
+                          [&texts](const ProfileTarget::Firefox &profile) {
+                              return Commands{{QStringList{u"--profile"_s, profile.path} + texts}};
+                          },
+                          [&texts](const ProfileTarget::FirefoxPrivate &) { return firefoxPrivateCommands(texts); },
+                      },
+                      target.value);
 }
 
 } // namespace vantrel

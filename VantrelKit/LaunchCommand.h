@@ -12,8 +12,8 @@ namespace vantrel {
 struct LaunchCommand {
     QStringList arguments;
 
-    /// The starts that open a target with links, to be run one after the other. Links that no browser should get are left
-    /// out. Empty for Safari, which takes no arguments; otherwise there is at least one.
+    /// The starts that open a target with links, to be run one after the other. Links that no browser should get are
+    /// left out. Empty for Safari, which takes no arguments; otherwise there is at least one.
     [[nodiscard]] static QList<LaunchCommand> commands(const QString &browserBundleID, const QList<QUrl> &links,
                                                        const ProfileTarget &target);
 

@@ -65,7 +65,8 @@ QString encodedItem(QLatin1StringView name, const QString &value)
 
 LaunchLink LaunchLink::forProfile(const Profile &profile)
 {
-    return {.browserBundleID = profile.browserBundleID, .profileName = profile.name, .profileID = profile.id(), .urls = {}};
+    return {
+        .browserBundleID = profile.browserBundleID, .profileName = profile.name, .profileID = profile.id(), .urls = {}};
 }
 
 std::optional<LaunchLink> LaunchLink::parse(const QUrl &url)

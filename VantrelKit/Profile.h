@@ -29,8 +29,8 @@ struct Profile {
 
 [[nodiscard]] size_t qHash(const Profile &profile, size_t seed = 0) noexcept;
 
-/// The profile with its browser, "Google Chrome – Work". `displayName` is the name that the user sees; a browser that is
-/// not among `browsers` is named by its identifier.
+/// The profile with its browser, "Google Chrome – Work". `displayName` is the name that the user sees; a browser that
+/// is not among `browsers` is named by its identifier.
 [[nodiscard]] QString displayTitle(const Profile &profile, const QList<Browser> &browsers, const QString &displayName);
 
 } // namespace vantrel

@@ -61,19 +61,16 @@ constexpr std::array targetCases{
 
 QJsonObject payloadOf(const ProfileTarget &target)
 {
-    return std::visit(Overloaded{
-                          [](const ProfileTarget::SafariProfile &profile) {
-                              return QJsonObject{{u"name"_s, profile.name}, {u"index"_s, profile.index}};
-                          },
-                          [](const ProfileTarget::Chromium &profile) {
-                              return QJsonObject{{u"folder"_s, profile.folder}};
-                          },
-                          [](const ProfileTarget::Firefox &profile) {
-                              return QJsonObject{{u"path"_s, profile.path}};
-                          },
-                          [](const auto &) { return QJsonObject(); },
-                      },
-                      target.value);
+    return std::visit(
+        Overloaded{
+            [](const ProfileTarget::SafariProfile &profile) {
+                return QJsonObject{{u"name"_s, profile.name}, {u"index"_s, profile.index}};
+            },
+            [](const ProfileTarget::Chromium &profile) { return QJsonObject{{u"folder"_s, profile.folder}}; },
+            [](const ProfileTarget::Firefox &profile) { return QJsonObject{{u"path"_s, profile.path}}; },
+            [](const auto &) { return QJsonObject(); },
+        },
+        target.value);
 }
 
 } // namespace
@@ -98,8 +95,8 @@ TargetResult profileTargetFromJson(const QJsonValue &json)
         ++count;
     }
     if (count != 1) {
-        return std::unexpected(DecodingError{
-            DecodingError::Kind::typeMismatch, {}, u"Invalid number of keys found, expected one."_s});
+        return std::unexpected(
+            DecodingError{DecodingError::Kind::typeMismatch, {}, u"Invalid number of keys found, expected one."_s});
     }
     const auto payload = json::object(outer->value(found->name));
     const TargetResult target = payload ? found->read(*payload) : std::unexpected(payload.error());

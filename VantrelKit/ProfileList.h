@@ -9,13 +9,13 @@
 
 #include <optional>
 
-/// The operations on the one list of profiles that keep it in the user's order. A browser's profiles always stand together
-/// as one group; a list in which they don't is put right by the first change of that group. All are pure and take time in
-/// proportion to the list's length.
+/// The operations on the one list of profiles that keep it in the user's order. A browser's profiles always stand
+/// together as one group; a list in which they don't is put right by the first change of that group. All are pure and
+/// take time in proportion to the list's length.
 namespace vantrel::ProfileList {
 
-/// The list with a browser's group replaced by what was found now. Profiles that were known keep their places and take the
-/// fresh record; those that are gone are dropped; new ones come before the first private window of the group.
+/// The list with a browser's group replaced by what was found now. Profiles that were known keep their places and take
+/// the fresh record; those that are gone are dropped; new ones come before the first private window of the group.
 [[nodiscard]] QList<Profile> merge(const QList<Profile> &fresh, const QString &browserBundleID,
                                    const QList<Profile> &current);
 

@@ -12,8 +12,8 @@
 
 namespace vantrel {
 
-/// Reads browsers' own files for the profiles that they have, without starting a browser. It keeps nothing: each call reads
-/// the disk afresh. Any thread; calls block.
+/// Reads browsers' own files for the profiles that they have, without starting a browser. It keeps nothing: each call
+/// reads the disk afresh. Any thread; calls block.
 struct ProfileReader {
     using Result = std::expected<QList<DiscoveredProfile>, ProfileDiscoveryError>;
 

@@ -67,8 +67,7 @@ std::optional<ProfileTarget> ProfileTarget::fromKey(const QString &key, BrowserF
     const QString payload = key.mid(colon + 1);
     switch (family) {
     case BrowserFamily::safari: return safariProfile(payload, -1);
-    case BrowserFamily::chromium:
-        return isSingleFolderName(payload) ? std::optional(chromium(payload)) : std::nullopt;
+    case BrowserFamily::chromium: return isSingleFolderName(payload) ? std::optional(chromium(payload)) : std::nullopt;
     case BrowserFamily::firefox: return firefox(payload);
     }
     Q_UNREACHABLE();

@@ -12,9 +12,6 @@ function(vantrel_own_target target)
     target_compile_options(${target} PRIVATE -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
     target_link_options(${target} PUBLIC -fsanitize=address,undefined)
   endif()
-  if(VANTREL_LINK_TIME_OPTIMIZATION)
-    set_target_properties(${target} PROPERTIES INTERPROCEDURAL_OPTIMIZATION ON)
-  endif()
 endfunction()
 
 # A static library of a module: `vantrel_module(VantrelKit SOURCES … LINKS …)`.

@@ -1,0 +1,37 @@
+#pragma once
+
+#include <QString>
+
+#include <optional>
+
+namespace vantrel {
+
+/// What Vantrel needs of a desktop entry file (freedesktop.org Desktop Entry Specification).
+struct DesktopEntry {
+    /// The file.
+    QString path;
+    /// In the user's language.
+    QString name;
+    /// As written, with quotes and field codes.
+    QString exec;
+    QString icon;
+    /// Where the program is to be started; empty for the home folder.
+    QString workingDirectory;
+    /// The application's ID when Flatpak exported the entry, else empty.
+    QString flatpakID;
+
+    friend bool operator==(const DesktopEntry &, const DesktopEntry &) = default;
+};
+
+/// What reading a desktop entry file gives.
+struct DesktopEntryFile {
+    /// The entry says that it is to be taken for deleted, also where a folder of less weight has one of the same name.
+    bool isHidden = false;
+    /// None when the file is no application's entry, or its program isn't there.
+    std::optional<DesktopEntry> entry;
+
+    /// Any thread.
+    [[nodiscard]] static DesktopEntryFile read(const QString &path);
+};
+
+} // namespace vantrel

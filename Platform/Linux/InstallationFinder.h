@@ -1,0 +1,33 @@
+#pragma once
+
+#include "Platform/Linux/Environment.h"
+#include "Platform/Linux/Installation.h"
+
+#include <QStringList>
+
+#include <optional>
+
+namespace vantrel {
+
+/// Finds installed browsers by their desktop entries. It keeps nothing between calls. Any thread.
+class InstallationFinder {
+public:
+    explicit InstallationFinder(Environment environment) : environment_(std::move(environment)) {}
+
+    /// None when the browser isn't installed.
+    [[nodiscard]] std::optional<Installation> find(const QString &bundleID) const;
+
+    /// The names of the desktop entry files that are looked for.
+    [[nodiscard]] static QStringList entryNames(const QString &bundleID);
+
+    [[nodiscard]] const Environment &environment() const { return environment_; }
+
+private:
+    /// Folders with desktop entries, the weightiest first.
+    [[nodiscard]] QStringList applicationFolders() const;
+    [[nodiscard]] std::optional<DesktopEntry> entryOf(const BrowserPackage &package, const QStringList &folders) const;
+
+    Environment environment_;
+};
+
+} // namespace vantrel
