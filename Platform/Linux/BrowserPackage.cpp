@@ -12,7 +12,7 @@ constexpr auto snap = Packaging::snap;
 // that their Flatpak has too; Fedora names its native Firefox like the Flatpak. Epic and Comet don't exist for Linux;
 // Flathub's com.microsoft.Edge is the beta channel. One row a line, in the catalogue's order.
 // clang-format off
-constexpr BrowserPackage packages[]{
+constexpr auto packages = std::to_array<BrowserPackage>({
     {"com.google.Chrome", native, "", {"google-chrome.desktop", "com.google.Chrome.desktop"}, {"google-chrome"}},
     {"com.google.Chrome", flatpak, "com.google.Chrome", {"com.google.Chrome.desktop"}, {"config/google-chrome"}},
     {"com.google.Chrome.beta", native, "", {"google-chrome-beta.desktop", "com.google.Chrome.beta.desktop"}, {"google-chrome-beta"}},
@@ -71,7 +71,7 @@ constexpr BrowserPackage packages[]{
     {"app.zen-browser.zen", native, "", {"zen.desktop", "zen-browser.desktop"}, {}},
     {"app.zen-browser.zen", flatpak, "app.zen_browser.zen", {"app.zen_browser.zen.desktop"}, {".zen", "config/zen"}},
     {"app.zen-browser.zen", flatpak, "io.github.zen_browser.zen", {"io.github.zen_browser.zen.desktop"}, {".zen", "config/zen"}},
-};
+});
 // clang-format on
 
 } // namespace

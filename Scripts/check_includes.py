@@ -1,0 +1,65 @@
+#!/usr/bin/env python3
+"""Checks that modules include only what stands below them, and that only per-system folders ask which system it is."""
+from __future__ import annotations
+
+import re
+import subprocess
+import sys
+from pathlib import Path
+
+ROOT = Path(__file__).resolve().parent.parent
+
+# Module to the modules that it may include.
+ALLOWED = {
+    "VantrelKit": {"VantrelKit"},
+    "Platform": {"Platform", "VantrelKit"},
+    "KeyboardShortcuts": {"KeyboardShortcuts", "Platform", "VantrelKit"},
+    "Vantrel": {"Vantrel", "KeyboardShortcuts", "Platform", "VantrelKit"},
+}
+SYSTEM_FOLDERS = {"Linux", "MacOS", "X11", "Portal", "Carbon"}
+SYSTEM_MACRO = re.compile(r"\bQ_OS_\w+|\b__APPLE__\b|\b__linux__\b")
+INCLUDE = re.compile(r'^\s*#\s*include\s+"([^"]+)"')
+
+
+def system_folder(path: Path) -> str | None:
+    """The per-system folder in which a path lies, as text with its module."""
+    for depth, part in enumerate(path.parts):
+        if part in SYSTEM_FOLDERS:
+            return "/".join(path.parts[: depth + 1])
+    return None
+
+
+def problems(path: Path, text: str) -> list[str]:
+    found = []
+    allowed = ALLOWED[path.parts[0]]
+    own_system = system_folder(path)
+    for number, line in enumerate(text.splitlines(), 1):
+        include = INCLUDE.match(line)
+        if include:
+            target = Path(include.group(1))
+            if target.parts[0] not in allowed:
+                found.append(f"{path}:{number}: {path.parts[0]} must not include {target}")
+            target_system = system_folder(target)
+            if target_system and target_system != own_system:
+                found.append(f"{path}:{number}: only {target_system} itself may include {target}")
+        if not own_system and SYSTEM_MACRO.search(line):
+            found.append(f"{path}:{number}: asks which system it is outside a per-system folder")
+    return found
+
+
+def main() -> int:
+    listed = subprocess.run(
+        ["git", "ls-files", "--cached", "--others", "--exclude-standard", "*.h", "*.cpp", "*.mm"],
+        cwd=ROOT, capture_output=True, text=True, check=True,
+    ).stdout.split("\n")
+    found = []
+    for name in filter(None, listed):
+        path = Path(name)
+        if path.parts[0] in ALLOWED:
+            found += problems(path, (ROOT / path).read_text(encoding="utf-8"))
+    print("\n".join(found), end="\n" if found else "")
+    return 1 if found else 0
+
+
+if __name__ == "__main__":
+    sys.exit(main())

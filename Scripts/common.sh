@@ -1,0 +1,78 @@
+# Shared by ./run and ./test; sourced by bash, with `root` set to the checkout.
+
+say() { printf '== %s\n' "$*" >&2; }
+fail() { printf '%s: %s\n' "$(basename "$0")" "$*" >&2; exit 1; }
+
+# What building takes, and what the tests take beyond that.
+build_packages=(g++ cmake ninja-build ccache pkg-config qt6-base-dev qcoro-qt6-dev libsimdjson-dev libglib2.0-dev sqlite3)
+test_packages=(libgtest-dev libgmock-dev libbenchmark-dev qt6-image-formats-plugins clang-19 clang-format-19 clang-tidy-19
+  shellcheck python3 python3-flake8 desktop-file-utils bubblewrap util-linux jq chromium firefox-esr xvfb openbox xdotool
+  x11-utils imagemagick dbus)
+demo_packages=(python3)
+brew_formulas=(cmake ninja ccache pkgconf qt simdjson googletest google-benchmark glib)
+
+# Runs a command as the administrator, who alone can install packages.
+as_administrator() {
+  if [ "$(id -u)" = 0 ]; then
+    "$@"
+  elif command -v sudo >/dev/null; then
+    sudo "$@"
+  else
+    fail "this needs an administrator: run as root, or install sudo: $*"
+  fi
+}
+
+missing_debian_packages() {
+  local package
+  for package in "$@"; do
+    [ "$(dpkg-query -W -f='${db:Status-Status}' "$package" 2>/dev/null)" = installed ] || printf '%s\n' "$package"
+  done
+}
+
+install_debian_packages() {
+  local missing
+  mapfile -t missing < <(missing_debian_packages "$@")
+  [ "${#missing[@]}" = 0 ] && return
+  say "Installing with apt: ${missing[*]}"
+  as_administrator env DEBIAN_FRONTEND=noninteractive apt-get update -q >&2
+  as_administrator env DEBIAN_FRONTEND=noninteractive \
+    apt-get install -y -q --no-install-recommends "${missing[@]}" >&2 </dev/null
+}
+
+install_brew_formulas() {
+  local formula missing=()
+  for formula in "$@"; do
+    brew list --versions "$formula" >/dev/null 2>&1 || missing+=("$formula")
+  done
+  [ "${#missing[@]}" = 0 ] && return
+  say "Installing with brew: ${missing[*]}"
+  brew install "${missing[@]}" >&2 </dev/null
+}
+
+# Installs what is missing of the Debian packages named, or what Homebrew calls them.
+install_dependencies() {
+  if command -v apt-get >/dev/null; then
+    install_debian_packages "$@"
+  elif command -v brew >/dev/null; then
+    install_brew_formulas "${brew_formulas[@]}"
+  else
+    fail "neither apt-get nor brew is here. Install these, by your system's names for them: $*"
+  fi
+}
+
+# With sudo, everything but the installing is done as the person who called it, so that the build folder stays theirs.
+continue_as_caller() {
+  local owner
+  [ "$(id -u)" = 0 ] && [ -n "${SUDO_UID:-}" ] && [ "$SUDO_UID" != 0 ] || return 0
+  owner=$(stat -c %u "$root" 2>/dev/null || stat -f %u "$root")
+  [ "$owner" = "$SUDO_UID" ] || return 0
+  exec sudo -H -u "#$SUDO_UID" --preserve-env=DISPLAY,WAYLAND_DISPLAY,XAUTHORITY,CI -- "$0" "$@"
+}
+
+# Builds a preset's targets: `build release vantrel`.
+build() {
+  local preset=$1
+  shift
+  say "Building ($preset)"
+  (cd "$root" && cmake --preset "$preset" >/dev/null && cmake --build --preset "$preset" --target "$@") >&2
+}
