@@ -1,4 +1,6 @@
-# Shared by ./run and ./test; sourced by bash, with `root` set to the checkout.
+# shellcheck shell=bash disable=SC2034,SC2154
+# Shared by ./run and ./test; sourced by bash, with `root` set to the checkout. Its variables are for
+# them (SC2034), and `root` comes from them (SC2154).
 
 say() { printf '== %s\n' "$*" >&2; }
 fail() { printf '%s: %s\n' "$(basename "$0")" "$*" >&2; exit 1; }

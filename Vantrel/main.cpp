@@ -25,7 +25,7 @@ QCoro::Task<> runAndQuit(CommandContext &context, std::optional<ExitStatus> &sta
 
 int main(int argc, char *argv[])
 {
-    QCoreApplication application(argc, argv);
+    const QCoreApplication application(argc, argv);
     QCoreApplication::setApplicationName(u"Vantrel"_s);
     QCoreApplication::setApplicationVersion(QStringLiteral(VANTREL_VERSION));
 

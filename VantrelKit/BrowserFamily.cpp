@@ -12,10 +12,10 @@ QString rawValue(BrowserFamily family)
     Q_UNREACHABLE();
 }
 
-std::optional<BrowserFamily> browserFamily(const QString &text)
+std::optional<BrowserFamily> browserFamily(const QString &rawValue)
 {
     for (const BrowserFamily family : allBrowserFamilies) {
-        if (rawValue(family) == text)
+        if (vantrel::rawValue(family) == rawValue)
             return family;
     }
     return std::nullopt;

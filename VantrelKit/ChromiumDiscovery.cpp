@@ -65,14 +65,15 @@ QList<FolderEntry> chromiumProfileFolders(const QList<FolderEntry> &entries)
 std::expected<QList<DiscoveredProfile>, ProfileDiscoveryError> chromiumProfiles(const QString &dataFolder,
                                                                                 const PictureReader &readPicture)
 {
-    const auto entries = listDataFolder(dataFolder);
+    const auto listed = listDataFolder(dataFolder);
+    if (!listed)
+        return std::unexpected(listed.error());
+    const auto &entries = *listed;
     if (!entries)
-        return std::unexpected(entries.error());
-    if (!*entries)
         return {};
     const ChromiumLocalState localState = readLocalState(dataFolder);
     QList<DiscoveredProfile> profiles;
-    for (const FolderEntry &folder : chromiumProfileFolders(**entries))
+    for (const FolderEntry &folder : chromiumProfileFolders(*entries))
         profiles.append(readProfile(folder, dataFolder, localState, readPicture));
     return profiles;
 }

@@ -26,7 +26,7 @@ QString Profile::id() const
     return browserBundleID + u'/' + target.key();
 }
 
-size_t qHash(const Profile &profile, size_t seed) noexcept
+size_t qHash(const Profile &profile, size_t seed)
 {
     return qHashMulti(seed, profile.browserBundleID, profile.name, profile.target, profile.avatarPNG.has_value(),
                       profile.avatarPNG.value_or(QByteArray()));

@@ -27,7 +27,7 @@ struct Profile {
     friend bool operator==(const Profile &, const Profile &) = default;
 };
 
-[[nodiscard]] size_t qHash(const Profile &profile, size_t seed = 0) noexcept;
+[[nodiscard]] size_t qHash(const Profile &profile, size_t seed = 0);
 
 /// The profile with its browser, "Google Chrome – Work". `displayName` is the name that the user sees; a browser that
 /// is not among `browsers` is named by its identifier.

@@ -69,10 +69,11 @@ QList<DiscoveredProfile> decodeRows(const QByteArray &output, const QString &dat
 std::expected<QList<DiscoveredProfile>, ProfileDiscoveryError> profileGroupRows(const QString &dataFolder,
                                                                                 const QString &sqlite3)
 {
-    const auto entries = listDataFolder(joinedPath(dataFolder, u"Profile Groups"_s));
-    if (!entries)
-        return std::unexpected(entries.error());
-    const auto path = *entries ? database(**entries) : std::nullopt;
+    const auto listed = listDataFolder(joinedPath(dataFolder, u"Profile Groups"_s));
+    if (!listed)
+        return std::unexpected(listed.error());
+    const auto &entries = *listed;
+    const auto path = entries ? database(*entries) : std::nullopt;
     if (!path)
         return {};
     return decodeRows(runQuery(sqlite3, *path), dataFolder);

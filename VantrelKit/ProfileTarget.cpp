@@ -90,7 +90,7 @@ bool ProfileTarget::isPrivate() const
            std::holds_alternative<FirefoxPrivate>(value);
 }
 
-size_t qHash(const ProfileTarget &target, size_t seed) noexcept
+size_t qHash(const ProfileTarget &target, size_t seed)
 {
     const auto payloadHash = std::visit(
         Overloaded{

@@ -67,6 +67,6 @@ struct ProfileTarget {
     friend bool operator==(const ProfileTarget &, const ProfileTarget &) = default;
 };
 
-[[nodiscard]] size_t qHash(const ProfileTarget &target, size_t seed = 0) noexcept;
+[[nodiscard]] size_t qHash(const ProfileTarget &target, size_t seed = 0);
 
 } // namespace vantrel

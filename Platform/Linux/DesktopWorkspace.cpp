@@ -24,8 +24,8 @@ std::expected<DesktopEntry, PlatformError> entryAt(const QUrl &application)
 
 } // namespace
 
-DesktopWorkspace::DesktopWorkspace(const InstallationFinder &finder, const QProcessEnvironment &variables)
-    : finder_(finder),
+DesktopWorkspace::DesktopWorkspace(InstallationFinder finder, const QProcessEnvironment &variables)
+    : finder_(std::move(finder)),
       variables_(environmentForChildren(variables))
 {
 }

@@ -11,7 +11,7 @@ namespace vantrel {
 class DesktopWorkspace final : public Workspace {
 public:
     /// `variables` is what started programs get as their environment.
-    DesktopWorkspace(const InstallationFinder &finder, const QProcessEnvironment &variables);
+    DesktopWorkspace(InstallationFinder finder, const QProcessEnvironment &variables);
 
     [[nodiscard]] std::optional<Application> applicationWithBundleIdentifier(const QString &bundleID) const override;
     [[nodiscard]] QStringList searchedNames(const QString &bundleID) const override;

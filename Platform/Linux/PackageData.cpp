@@ -25,7 +25,7 @@ bool pathExists(const QString &path)
 /// What the entry's own command line says about the folder.
 std::optional<QString> userDataDirectory(const DesktopEntry &entry)
 {
-    constexpr auto option = "--user-data-dir="_L1;
+    static constexpr auto option = "--user-data-dir="_L1;
     if (!entry.exec.contains(option))
         return std::nullopt;
     const QStringList words = execWords(entry.exec).value_or(QStringList());

@@ -8,7 +8,7 @@ namespace vantrel {
 /// The data folders of installed browsers, below the home and configuration folders or inside a sandbox's.
 class XdgBrowserData final : public BrowserData {
 public:
-    explicit XdgBrowserData(const InstallationFinder &finder) : finder_(finder) {}
+    explicit XdgBrowserData(InstallationFinder finder) : finder_(std::move(finder)) {}
 
     [[nodiscard]] QList<BrowserDataFolder> dataFolders(const QString &bundleID) const override;
 

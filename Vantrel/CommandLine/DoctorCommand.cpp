@@ -75,9 +75,8 @@ QString toJsonText(const Finding &finding)
     });
 }
 
-void printInstalled(const Finding &finding, Output &output)
+void printInstalled(const Finding &finding, const Browser &browser, Output &output)
 {
-    const Browser &browser = *finding.browser;
     output.line(printable(browser.name) + u"  "_s + finding.bundleID);
     //: Line of a report on a browser. The placeholder is a file.
     output.line(u"  "_s + Texts::tr("application  %1").arg(printable(browser.url.toLocalFile())));
@@ -108,7 +107,7 @@ void printReport(const QList<Finding> &findings, Output &output)
 {
     for (const Finding &finding : findings) {
         if (finding.browser)
-            printInstalled(finding, output);
+            printInstalled(finding, *finding.browser, output);
     }
     //: Headline of a list of browsers with the files that were looked for.
     output.line(Texts::tr("Not installed, and what was looked for:"));
@@ -153,7 +152,7 @@ QCoro::Task<ExitStatus> DoctorCommand::run(CommandArguments arguments, CommandCo
     }
     ExitStatus status = ExitStatus::done;
     for (const Finding &finding : std::as_const(findings)) {
-        if (!finding.error)
+        if (!finding.error || !finding.browser)
             continue;
         context.output.message(problemText(finding.browser->name, *finding.error));
         status = ExitStatus::failed;

@@ -2,7 +2,7 @@
 
 #include <QList>
 
-#include <wchar.h>
+#include <cwchar>
 
 using namespace Qt::StringLiterals;
 

@@ -59,7 +59,7 @@ MatchFailure ambiguous(const QString &text, const QList<Profile> &found, const P
 MatchFailure unknown(const QString &text, const ProfileCatalogue &catalogue)
 {
     const QList<Profile> all = catalogue.openable();
-    QList<Profile> similar = profilesWhere(all, [&](const Profile &profile) {
+    const QList<Profile> similar = profilesWhere(all, [&](const Profile &profile) {
         return !text.isEmpty() && catalogue.title(profile).contains(text, Qt::CaseInsensitive);
     });
     if (all.isEmpty()) {

@@ -7,7 +7,7 @@ namespace {
 
 QUrl parsed(const QString &text, const QString &workingDirectory)
 {
-    const QUrl exact(text);
+    QUrl exact(text);
     if (exact.isValid() && !openableLinks({exact}).isEmpty())
         return exact;
     return QUrl::fromUserInput(text, workingDirectory);
