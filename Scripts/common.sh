@@ -76,5 +76,5 @@ build() {
   local preset=$1
   shift
   say "Building ($preset)"
-  (cd "$root" && cmake --preset "$preset" >/dev/null && cmake --build --preset "$preset" --target "$@") >&2
+  (cd "$root" && cmake --preset "$preset" >/dev/null && cmake --build --preset "$preset" --target "$@" -- --quiet) >&2
 }
