@@ -5,7 +5,9 @@
 
 #include <QSet>
 
-#include <future>
+#include <algorithm>
+#include <atomic>
+#include <thread>
 #include <utility>
 #include <vector>
 
@@ -37,6 +39,30 @@ QList<Profile> knownProfiles(const QList<Profile> &profiles, const QString &bund
     return known;
 }
 
+struct Run {
+    QString bundleID;
+    ProfileReader::Result result;
+};
+
+/// Those that wait for another program come first, so that the others are read in the meantime.
+std::vector<Run> plannedRuns(const QList<Browser> &browsers)
+{
+    std::vector<Run> runs;
+    for (const BrowserFamily family : {BrowserFamily::firefox, BrowserFamily::chromium}) {
+        for (const Browser &browser : browsers) {
+            if (browser.family == family)
+                runs.push_back({browser.bundleID, {}});
+        }
+    }
+    return runs;
+}
+
+/// One more than there are processors: one is likely to wait for another program or for the disk.
+size_t workerCount()
+{
+    return std::thread::hardware_concurrency() + 1;
+}
+
 } // namespace
 
 ProfileReader::Result discoverBrowser(const ProfileReader &reader, const BrowserData &data, const QString &bundleID)
@@ -58,17 +84,22 @@ ProfileReader::Result discoverBrowser(const ProfileReader &reader, const Browser
 
 DiscoveryResults discoverBrowsers(const ProfileReader &reader, const BrowserData &data, const QList<Browser> &browsers)
 {
-    std::vector<std::pair<QString, std::future<ProfileReader::Result>>> runs;
-    for (const Browser &browser : browsers) {
-        if (browser.family == BrowserFamily::safari)
-            continue;
-        runs.emplace_back(browser.bundleID, std::async(std::launch::async, [&reader, &data, id = browser.bundleID] {
-                              return discoverBrowser(reader, data, id);
-                          }));
+    std::vector<Run> runs = plannedRuns(browsers);
+    std::atomic<size_t> next = 0;
+    const auto work = [&] {
+        for (size_t index = next++; index < runs.size(); index = next++)
+            runs[index].result = discoverBrowser(reader, data, runs[index].bundleID);
+    };
+    {
+        // The calling thread takes its share, so that a single browser costs no thread at all.
+        std::vector<std::jthread> helpers;
+        for (size_t count = 1; count < std::min(runs.size(), workerCount()); ++count)
+            helpers.emplace_back(work);
+        work();
     }
     DiscoveryResults results;
-    for (auto &[bundleID, run] : runs)
-        results.insert(bundleID, run.get());
+    for (Run &run : runs)
+        results.insert(run.bundleID, std::move(run.result));
     return results;
 }
 

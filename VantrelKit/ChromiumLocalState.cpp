@@ -26,15 +26,13 @@ std::optional<ChromiumLocalState> readInfoCache(const simdjson::dom::object &cac
 
 std::optional<ChromiumLocalState> ChromiumLocalState::read(const QString &path)
 {
-    const auto content = json::readFile(path);
-    simdjson::dom::parser parser;
-    simdjson::dom::object root;
-    if (!content || parser.parse(*content).get(root) != simdjson::SUCCESS)
+    const auto root = json::readObject(path);
+    if (!root)
         return std::nullopt;
 
     simdjson::dom::object profile;
     simdjson::dom::object cache;
-    const Member section = json::member(root, "profile", profile);
+    const Member section = json::member(*root, "profile", profile);
     if (section != Member::present)
         return section == Member::absent ? std::optional(ChromiumLocalState()) : std::nullopt;
     const Member infoCache = json::member(profile, "info_cache", cache);

@@ -6,15 +6,13 @@ namespace vantrel {
 
 std::optional<ChromiumPreferences> ChromiumPreferences::read(const QString &path)
 {
-    const auto content = json::readFile(path);
-    simdjson::dom::parser parser;
-    simdjson::dom::object root;
-    if (!content || parser.parse(*content).get(root) != simdjson::SUCCESS)
+    const auto root = json::readObject(path);
+    if (!root)
         return std::nullopt;
 
     ChromiumPreferences preferences;
     simdjson::dom::object profile;
-    switch (json::member(root, "profile", profile)) {
+    switch (json::member(*root, "profile", profile)) {
     case json::Member::absent: return preferences;
     case json::Member::mistyped: return std::nullopt;
     case json::Member::present: break;

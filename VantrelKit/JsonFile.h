@@ -9,12 +9,15 @@
 #include <string_view>
 
 /// Reading of other programs' JSON, which may be large, damaged or of another shape. Included by sources only: it is
-/// the only place that brings in simdjson.
+/// the only place that brings in simdjson. Any thread; what is returned is valid on the same thread until the next call
+/// there, since the parser's memory is used again for the next text.
 namespace vantrel::json {
 
-/// A file's whole content, with the room behind it that the parser needs; none when it isn't a plain file or can't be
-/// read.
-[[nodiscard]] std::optional<simdjson::padded_string> readFile(const QString &path);
+/// The text's root; none when it isn't JSON from beginning to end.
+[[nodiscard]] std::optional<simdjson::dom::element> parse(const QByteArray &text);
+
+/// The object in a file; none when it isn't a plain file, can't be read, isn't JSON or holds no object.
+[[nodiscard]] std::optional<simdjson::dom::object> readObject(const QString &path);
 
 /// What one member of an object holds. Missing and null are the same to the readers of these files.
 enum class Member { present, absent, mistyped };

@@ -45,10 +45,9 @@ QByteArray runQuery(const QString &sqlite3, const QString &database)
 /// One row wrongly shaped makes all of them unreadable.
 QList<DiscoveredProfile> decodeRows(const QByteArray &output, const QString &dataFolder)
 {
-    simdjson::dom::parser parser;
+    const auto root = json::parse(output);
     simdjson::dom::array rows;
-    const simdjson::padded_string json(output.constData(), static_cast<size_t>(output.size()));
-    if (parser.parse(json).get(rows) != simdjson::SUCCESS)
+    if (!root || root->get(rows) != simdjson::SUCCESS)
         return {};
     QList<DiscoveredProfile> profiles;
     for (const simdjson::dom::element row : rows) {

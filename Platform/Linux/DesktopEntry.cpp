@@ -1,29 +1,52 @@
-// Ahead of Qt's headers: GIO has a structure member called "signals".
 #include "Platform/Linux/DesktopEntry.h"
 
-#include <QFile>
+#include "Platform/Linux/ExecLine.h"
 
-#include <gio/gdesktopappinfo.h>
+#include <QFile>
+#include <QFileInfo>
 
 #include <memory>
+
+#include <glib.h>
 
 namespace vantrel {
 namespace {
 
 struct Deleter {
     void operator()(GKeyFile *file) const { g_key_file_unref(file); }
-    void operator()(GDesktopAppInfo *info) const { g_object_unref(info); }
     void operator()(char *text) const { g_free(text); }
 };
 
 using KeyFile = std::unique_ptr<GKeyFile, Deleter>;
-using AppInfo = std::unique_ptr<GDesktopAppInfo, Deleter>;
 using Text = std::unique_ptr<char, Deleter>;
 
-QString string(GDesktopAppInfo *info, const char *key)
+QString string(const KeyFile &file, const char *key)
 {
-    const Text text(g_desktop_app_info_get_string(info, key));
+    const Text text(g_key_file_get_string(file.get(), G_KEY_FILE_DESKTOP_GROUP, key, nullptr));
     return QString::fromUtf8(text.get());
+}
+
+/// In the language of the environment.
+QString localizedString(const KeyFile &file, const char *key)
+{
+    const Text text(g_key_file_get_locale_string(file.get(), G_KEY_FILE_DESKTOP_GROUP, key, nullptr, nullptr));
+    return QString::fromUtf8(text.get());
+}
+
+bool isProgramThere(const QString &program)
+{
+    return Text(g_find_program_in_path(QFile::encodeName(program).constData())) != nullptr;
+}
+
+bool canBeStarted(const KeyFile &file, const QString &exec)
+{
+    if (string(file, G_KEY_FILE_DESKTOP_KEY_TYPE) != QLatin1StringView(G_KEY_FILE_DESKTOP_TYPE_APPLICATION))
+        return false;
+    const QString tried = string(file, G_KEY_FILE_DESKTOP_KEY_TRY_EXEC);
+    if (!tried.isEmpty() && !isProgramThere(tried))
+        return false;
+    const QStringList words = execWords(exec).value_or(QStringList());
+    return !words.isEmpty() && isProgramThere(words.first());
 }
 
 } // namespace
@@ -31,23 +54,24 @@ QString string(GDesktopAppInfo *info, const char *key)
 DesktopEntryFile DesktopEntryFile::read(const QString &path)
 {
     const KeyFile file(g_key_file_new());
-    if (!g_key_file_load_from_file(file.get(), QFile::encodeName(path).constData(), G_KEY_FILE_NONE, nullptr))
+    // Opening anything but a plain file could block, as a pipe does.
+    if (!QFileInfo(path).isFile() ||
+        !g_key_file_load_from_file(file.get(), QFile::encodeName(path).constData(), G_KEY_FILE_NONE, nullptr))
         return {};
     if (g_key_file_get_boolean(file.get(), G_KEY_FILE_DESKTOP_GROUP, G_KEY_FILE_DESKTOP_KEY_HIDDEN, nullptr))
         return {.isHidden = true, .entry = std::nullopt};
-    // Null also when the program, or what TryExec names, isn't on the machine.
-    const AppInfo info(g_desktop_app_info_new_from_keyfile(file.get()));
-    const char *exec = info ? g_app_info_get_commandline(G_APP_INFO(info.get())) : nullptr;
-    if (!exec)
+    const QString exec = string(file, G_KEY_FILE_DESKTOP_KEY_EXEC);
+    if (!canBeStarted(file, exec))
         return {};
+    const QString name = localizedString(file, G_KEY_FILE_DESKTOP_KEY_NAME);
     return {.isHidden = false,
             .entry = DesktopEntry{
                 .path = path,
-                .name = QString::fromUtf8(g_app_info_get_name(G_APP_INFO(info.get()))),
-                .exec = QString::fromUtf8(exec),
-                .icon = string(info.get(), G_KEY_FILE_DESKTOP_KEY_ICON),
-                .workingDirectory = string(info.get(), G_KEY_FILE_DESKTOP_KEY_PATH),
-                .flatpakID = string(info.get(), "X-Flatpak"),
+                .name = name.isEmpty() ? QFileInfo(path).completeBaseName() : name,
+                .exec = exec,
+                .icon = localizedString(file, G_KEY_FILE_DESKTOP_KEY_ICON),
+                .workingDirectory = string(file, G_KEY_FILE_DESKTOP_KEY_PATH),
+                .flatpakID = string(file, "X-Flatpak"),
             }};
 }
 
