@@ -24,6 +24,8 @@ struct BrowserPackage {
     /// (native), to
     /// `~/.var/app/ID` (Flatpak) or to `~/snap/NAME` (Snap). Native Firefoxes have none: see `FirefoxRoots`.
     std::array<std::string_view, 2> dataFolders;
+    /// The browser that alone is shown when both are installed and use one data folder; empty for none.
+    std::string_view yieldsTo = {};
 
     /// The packages of a browser: native, Flatpak, Snap. Empty for browsers that don't exist for Linux.
     [[nodiscard]] static QList<const BrowserPackage *> ofBrowser(const QString &bundleID);

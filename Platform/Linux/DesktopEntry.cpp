@@ -5,9 +5,9 @@
 #include <QFile>
 #include <QFileInfo>
 
-#include <memory>
-
 #include <glib.h>
+
+#include <memory>
 
 namespace vantrel {
 namespace {

@@ -4,6 +4,7 @@
 #include "Platform/Linux/ExecLine.h"
 
 #include <QCoreApplication>
+#include <QFileInfo>
 
 namespace vantrel {
 namespace {
@@ -62,7 +63,8 @@ QCoro::Task<std::expected<void, PlatformError>> DesktopWorkspace::openApplicatio
     const auto line = expandedCommandLine(*entry, arguments, home);
     if (!line)
         co_return std::unexpected(line.error());
-    co_return startDetached(*line, entry->workingDirectory.isEmpty() ? home : entry->workingDirectory, variables_);
+    const bool hasFolder = QFileInfo(entry->workingDirectory).isDir();
+    co_return startDetached(*line, hasFolder ? entry->workingDirectory : home, variables_);
 }
 
 } // namespace vantrel

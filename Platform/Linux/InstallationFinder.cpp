@@ -50,6 +50,14 @@ std::optional<DesktopEntry> InstallationFinder::entryOf(const BrowserPackage &pa
     return std::nullopt;
 }
 
+bool InstallationFinder::yields(const Installation &installation) const
+{
+    if (installation.package->yieldsTo.empty())
+        return false;
+    const auto other = find(text(installation.package->yieldsTo));
+    return other && isSameFolder(other->dataFolders.first().path, installation.dataFolders.first().path);
+}
+
 std::optional<Installation> InstallationFinder::find(const QString &bundleID) const
 {
     const QStringList folders = applicationFolders();
@@ -59,7 +67,9 @@ std::optional<Installation> InstallationFinder::find(const QString &bundleID) co
         if (!entry)
             continue;
         const QStringList candidates = candidateDataFolders(*package, *entry, environment_);
-        installations.append({package, *std::move(entry), actualDataFolders(bundleID, candidates)});
+        const Installation installation{package, *std::move(entry), actualDataFolders(bundleID, candidates)};
+        if (!yields(installation))
+            installations.append(installation);
     }
     return installations.isEmpty() ? std::nullopt : std::optional(preferred(installations));
 }

@@ -81,13 +81,6 @@ BrowserDataFolder actualChromiumFolder(const QString &bundleID, const QStringLis
     return chromiumFolder(bundleID, chosen == candidates.end() ? candidates.first() : *chosen);
 }
 
-bool isSameFolder(const QString &left, const QString &right)
-{
-    std::error_code ignored;
-    return std::filesystem::equivalent(QFile::encodeName(left).toStdString(), QFile::encodeName(right).toStdString(),
-                                       ignored);
-}
-
 QList<BrowserDataFolder> actualFirefoxFolders(const QString &bundleID, const QStringList &candidates)
 {
     QStringList folders;
@@ -106,6 +99,13 @@ QList<BrowserDataFolder> actualFirefoxFolders(const QString &bundleID, const QSt
 }
 
 } // namespace
+
+bool isSameFolder(const QString &left, const QString &right)
+{
+    std::error_code ignored;
+    return left == right || std::filesystem::equivalent(QFile::encodeName(left).toStdString(),
+                                                        QFile::encodeName(right).toStdString(), ignored);
+}
 
 QStringList candidateDataFolders(const BrowserPackage &package, const DesktopEntry &entry,
                                  const Environment &environment)
@@ -138,7 +138,7 @@ bool holdsProfiles(const QString &bundleID, const QString &folder)
     };
     if (KnownBrowsers::family(bundleID) == BrowserFamily::firefox)
         return has("profiles.ini"_L1) || has("Profile Groups"_L1);
-    return has("Local State"_L1) || has("Preferences"_L1) || !chromiumProfileFolders(**entries).isEmpty();
+    return has("Preferences"_L1) || !chromiumProfileFolders(**entries).isEmpty();
 }
 
 QList<BrowserDataFolder> actualDataFolders(const QString &bundleID, const QStringList &candidates)

@@ -18,6 +18,9 @@ namespace vantrel {
 /// that exists, else the first. A Firefox can open profiles from all that list some.
 [[nodiscard]] QList<BrowserDataFolder> actualDataFolders(const QString &bundleID, const QStringList &candidates);
 
+/// Whether two paths lead to one folder.
+[[nodiscard]] bool isSameFolder(const QString &left, const QString &right);
+
 /// Whether a browser of this family has profiles in the folder. A folder that may not be read counts: that it can't be
 /// read must come to light.
 [[nodiscard]] bool holdsProfiles(const QString &bundleID, const QString &folder);

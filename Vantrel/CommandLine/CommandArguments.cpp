@@ -76,7 +76,8 @@ std::expected<CommandArguments, ExitStatus> CommandArguments::parse(const Comman
         output.line(help(syntax));
         return std::unexpected(ExitStatus::done);
     }
-    const auto reason = isUnderstood ? misfit(syntax, parser.positionalArguments()) : std::optional(parser.errorText());
+    const auto reason =
+        isUnderstood ? misfit(syntax, parser.positionalArguments()) : std::optional(printable(parser.errorText()));
     if (reason) {
         //: Error of the command line. First: what is wrong; second: a command.
         output.message(Texts::tr("%1\nTry “%2”.").arg(*reason, u"vantrel %1 --help"_s.arg(syntax.command)));
