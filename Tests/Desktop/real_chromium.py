@@ -1,0 +1,69 @@
+"""Chromium as Debian packages it."""
+
+import json
+import os
+import re
+from pathlib import Path
+
+from .desktop_session import require_programs
+from .real_browser import BrowserProfile, RealBrowser, installed_entry
+
+_PROGRAM = "/usr/bin/chromium"
+
+# The sandbox does not work for root and in most containers. Everything but the loopback is out of reach: nothing
+# listens at the proxy's port.
+_SWITCHES = (
+    "--no-sandbox", "--disable-gpu", "--disable-quic", "--no-first-run", "--no-default-browser-check",
+    "--disable-background-networking", "--disable-component-update", "--disable-sync", "--password-store=basic",
+    "--proxy-server=http://127.0.0.1:9",
+)
+
+# In the order in which they are made, which is neither that of their numbers nor that of their names.
+_NAMES = {"Profile 10": "Work", "Default": "Büro & Straße", "Profile 2": "Home"}
+_LISTED_ORDER = ("Default", "Profile 2", "Profile 10")
+
+
+class RealChromium(RealBrowser):
+    bundle_id = "org.chromium.Chromium"
+    entry_name = "chromium.desktop"
+    program = Path("/usr/lib/chromium/chromium")
+    helper_switch = "--type="
+    title = "- Chromium"
+    private_title = title
+    history = ("History", "select url from urls")
+
+    @property
+    def data_folder(self) -> Path:
+        return self.session.config / "chromium"
+
+    def process_of(self, profile: BrowserProfile) -> int:
+        """One process has all profiles open."""
+        try:
+            return int(os.readlink(self.data_folder / "SingletonLock").rpartition("-")[2])
+        except FileNotFoundError:
+            return 0
+
+    def profile_folders(self) -> set[Path]:
+        return {each.parent for each in self.data_folder.glob("*/Preferences")}
+
+    def _entry(self) -> str:
+        require_programs({_PROGRAM: "chromium"})
+        command_line = " ".join((_PROGRAM, *_SWITCHES, "%U"))
+        return re.sub(r"^Exec=.*", f"Exec={command_line}", installed_entry(self.entry_name), flags=re.MULTILINE)
+
+    def _make_profiles(self) -> None:
+        for folder, name in _NAMES.items():
+            self._mark(name, [_PROGRAM, *_SWITCHES, f"--profile-directory={folder}"])
+        self.quit()
+        self.profiles = tuple(
+            BrowserProfile(f"chromium:{folder}", _NAMES[folder], self.data_folder / folder) for folder in _LISTED_ORDER
+        )
+        self._name_profiles()
+
+    def _name_profiles(self) -> None:
+        """As the browser's own settings do; that it takes the names for its own shows when it is started again."""
+        file = self.data_folder / "Local State"
+        state = json.loads(file.read_bytes())
+        for folder, name in _NAMES.items():
+            state["profile"]["info_cache"][folder] |= {"name": name, "is_using_default_name": False}
+        file.write_text(json.dumps(state), "utf-8")
