@@ -20,7 +20,8 @@ std::optional<QString> readText(const QString &path)
     QFile file(path);
     if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly))
         return std::nullopt;
-    QStringDecoder decoder(QStringDecoder::Utf8);
+    // Stateless, so that a character cut off at the end is an error and not awaited.
+    QStringDecoder decoder(QStringDecoder::Utf8, QStringDecoder::Flag::Stateless);
     QString text = decoder.decode(file.readAll());
     return decoder.hasError() ? std::nullopt : std::optional(std::move(text));
 }

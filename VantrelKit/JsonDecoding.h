@@ -16,7 +16,7 @@ namespace vantrel::json {
 
 [[nodiscard]] std::expected<QJsonObject, DecodingError> object(const QJsonValue &value);
 
-/// The member of that name; fails when it is missing or null.
+/// The member of that name, whatever it holds; fails when it is missing.
 [[nodiscard]] std::expected<QJsonValue, DecodingError> member(const QJsonObject &object, const QString &name);
 
 [[nodiscard]] std::expected<QString, DecodingError> string(const QJsonValue &value);

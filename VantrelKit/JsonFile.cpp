@@ -2,6 +2,7 @@
 
 #include <QFile>
 #include <QFileInfo>
+#include <QJsonDocument>
 
 #include <algorithm>
 
@@ -14,11 +15,10 @@ struct Parser {
     /// The text, with the room behind it that the parser may read.
     QByteArray buffer;
 
-    std::optional<simdjson::dom::element> parse(qsizetype size)
+    /// The text of this size in the buffer.
+    simdjson::simdjson_result<simdjson::dom::element> parse(qsizetype size)
     {
-        simdjson::dom::element root;
-        const auto result = parser.parse(buffer.constData(), static_cast<size_t>(size), false);
-        return result.get(root) == simdjson::SUCCESS ? std::optional(root) : std::nullopt;
+        return parser.parse(buffer.constData(), static_cast<size_t>(size), false);
     }
 };
 
@@ -30,14 +30,39 @@ Parser &threadParser()
 
 constexpr auto padding = static_cast<qsizetype>(simdjson::SIMDJSON_PADDING);
 
+/// Puts a text into the buffer.
+void fill(Parser &parser, const QByteArray &text)
+{
+    parser.buffer.resize(text.size() + padding);
+    std::ranges::copy(text, parser.buffer.begin());
+}
+
+/// simdjson refuses numbers beyond 64 bits, which are good JSON all the same. Qt writes them as its doubles.
+std::optional<simdjson::dom::element> parseWithLargeNumbers(Parser &parser, qsizetype size)
+{
+    const QByteArray text = QJsonDocument::fromJson(parser.buffer.first(size)).toJson(QJsonDocument::Compact);
+    fill(parser, text);
+    simdjson::dom::element root;
+    return parser.parse(text.size()).get(root) == simdjson::SUCCESS ? std::optional(root) : std::nullopt;
+}
+
+std::optional<simdjson::dom::element> parsed(Parser &parser, qsizetype size)
+{
+    simdjson::dom::element root;
+    switch (parser.parse(size).get(root)) {
+    case simdjson::SUCCESS: return root;
+    case simdjson::NUMBER_ERROR: return parseWithLargeNumbers(parser, size);
+    default: return std::nullopt;
+    }
+}
+
 } // namespace
 
 std::optional<simdjson::dom::element> parse(const QByteArray &text)
 {
     Parser &parser = threadParser();
-    parser.buffer.resize(text.size() + padding);
-    std::ranges::copy(text, parser.buffer.begin());
-    return parser.parse(text.size());
+    fill(parser, text);
+    return parsed(parser, text.size());
 }
 
 std::optional<simdjson::dom::object> readObject(const QString &path)
@@ -53,7 +78,7 @@ std::optional<simdjson::dom::object> readObject(const QString &path)
     parser.buffer.resize(size + padding);
     if (file.read(parser.buffer.data(), size) != size)
         return std::nullopt;
-    const auto root = parser.parse(size);
+    const auto root = parsed(parser, size);
     simdjson::dom::object object;
     if (!root || root->get(object) != simdjson::SUCCESS)
         return std::nullopt;

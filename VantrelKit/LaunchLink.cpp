@@ -3,6 +3,7 @@
 #include "VantrelKit/Profile.h"
 #include "VantrelKit/WebLinks.h"
 
+#include <QStringDecoder>
 #include <QStringList>
 
 #include <algorithm>
@@ -26,9 +27,12 @@ struct QueryItem {
     QString value;
 };
 
+/// Not `QUrl::fromPercentEncoding`, which drops a byte-order mark that a name begins with.
 QString decoded(QStringView text)
 {
-    return QUrl::fromPercentEncoding(text.toUtf8());
+    QStringDecoder decoder(QStringDecoder::Utf8,
+                           QStringDecoder::Flag::Stateless | QStringDecoder::Flag::ConvertInitialBom);
+    return decoder.decode(QByteArray::fromPercentEncoding(text.toUtf8()));
 }
 
 /// Not `QUrlQuery`, which keeps some characters encoded or decodes them twice, depending on what stands around them.

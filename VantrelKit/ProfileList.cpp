@@ -38,23 +38,19 @@ QHash<QString, const Profile *> indexed(const QList<Profile> &profiles)
 QList<Profile> mergedGroup(const QList<Profile> &old, const QList<Profile> &fresh)
 {
     const QHash<QString, const Profile *> freshByID = indexed(fresh);
-    QSet<QString> taken;
+    QSet<QString> known;
     QList<Profile> group;
     for (const Profile &profile : old) {
         const QString id = profile.id();
-        const Profile *record = freshByID.value(id);
-        if (record && !taken.contains(id))
+        known.insert(id);
+        if (const Profile *record = freshByID.value(id))
             group.append(*record);
-        taken.insert(id);
     }
     QList<Profile> added;
     QList<Profile> addedPrivate;
     for (const Profile &profile : fresh) {
-        const QString id = profile.id();
-        if (taken.contains(id))
-            continue;
-        taken.insert(id);
-        (isPrivate(profile) ? addedPrivate : added).append(profile);
+        if (!known.contains(profile.id()))
+            (isPrivate(profile) ? addedPrivate : added).append(profile);
     }
     const auto insertion = std::ranges::find_if(group, isPrivate) - group.begin();
     return group.first(insertion) + added + group.sliced(insertion) + addedPrivate;

@@ -72,6 +72,7 @@ DesktopEntryFile DesktopEntryFile::read(const QString &path)
                 .icon = localizedString(file, G_KEY_FILE_DESKTOP_KEY_ICON),
                 .workingDirectory = string(file, G_KEY_FILE_DESKTOP_KEY_PATH),
                 .flatpakID = string(file, "X-Flatpak"),
+                .snapName = string(file, "X-SnapInstanceName"),
             }};
 }
 

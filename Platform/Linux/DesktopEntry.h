@@ -18,7 +18,9 @@ struct DesktopEntry {
     /// Where the program is to be started; empty for the home folder.
     QString workingDirectory;
     /// The application's ID when Flatpak exported the entry, else empty.
-    QString flatpakID;
+    QString flatpakID = {};
+    /// The snap's name when snapd made the entry, else empty.
+    QString snapName = {};
 
     friend bool operator==(const DesktopEntry &, const DesktopEntry &) = default;
 };

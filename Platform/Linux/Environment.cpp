@@ -14,7 +14,8 @@ namespace {
 std::optional<QString> absolutePath(const QProcessEnvironment &variables, const QString &name)
 {
     const QString value = variables.value(name);
-    return value.startsWith(u'/') ? std::optional(value) : std::nullopt;
+    // Joined with nothing, a path loses slashes at its end, so that folders can be told by the beginning of a path.
+    return value.startsWith(u'/') ? std::optional(joinedPath(value, {})) : std::nullopt;
 }
 
 QStringList dataDirs(const QProcessEnvironment &variables)

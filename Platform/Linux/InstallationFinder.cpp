@@ -13,9 +13,12 @@ namespace {
 /// An entry's name alone doesn't tell a Flatpak from a native package.
 bool belongsTo(const BrowserPackage &package, const DesktopEntry &entry)
 {
-    if (package.packaging == Packaging::flatpak)
-        return entry.flatpakID == text(package.sandboxID);
-    return entry.flatpakID.isEmpty();
+    switch (package.packaging) {
+    case Packaging::native: return entry.flatpakID.isEmpty() && entry.snapName.isEmpty();
+    case Packaging::flatpak: return entry.flatpakID == text(package.sandboxID);
+    case Packaging::snap: return entry.flatpakID.isEmpty();
+    }
+    Q_UNREACHABLE();
 }
 
 } // namespace

@@ -30,7 +30,10 @@ std::optional<QString> userDataDirectory(const DesktopEntry &entry)
         return std::nullopt;
     const QStringList words = execWords(entry.exec).value_or(QStringList());
     const auto word = std::ranges::find_if(words, [](const QString &text) { return text.startsWith(option); });
-    return word == words.end() ? std::nullopt : std::optional(word->sliced(option.size()));
+    if (word == words.end())
+        return std::nullopt;
+    // A percent sign is written twice there, since a single one begins a field code.
+    return word->sliced(option.size()).replace("%%"_L1, "%"_L1);
 }
 
 QStringList nativeFirefoxFolders(const BrowserPackage &package, const Environment &environment)

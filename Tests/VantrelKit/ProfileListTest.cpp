@@ -80,7 +80,7 @@ TEST(ProfileList, TheFirstOfSeveralPrivateWindowsIsTheMark)
     QList<Profile> current = profiles(u"c:1 c:private c:2"_s);
     current.append({test::chrome, {}, ProfileTarget::firefoxPrivate()});
     QList<Profile> fresh = profiles(u"c:1 c:2 c:3 c:private"_s);
-    EXPECT_EQ(notation(ProfileList::merge(fresh, test::chrome, current)), u"c:1 c:3 c:private c:2"_s);
+    EXPECT_EQ(notation(ProfileList::merge(fresh, test::chrome, current)), u"c:1 c:3 c:private c:2 c:private"_s);
 }
 
 TEST(ProfileList, ARenamedProfileKeepsItsPlaceAndTakesTheNewName)
