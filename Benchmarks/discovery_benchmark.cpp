@@ -1,5 +1,5 @@
-// A whole discovery in the environment that the process is started in, as the app runs it: all installed browsers side by
-// side, with and without pictures. `Benchmarks/run` starts it in the generated home.
+// A whole discovery in the environment that the process is started in, as the app runs it: all installed browsers side
+// by side, with and without pictures. `Benchmarks/run` starts it in the generated home.
 
 #include "Platform/Platform.h"
 #include "Vantrel/BrowserDiscovery.h"

@@ -18,8 +18,8 @@ using DiscoveryResults = QHash<QString, ProfileReader::Result>;
 [[nodiscard]] ProfileReader::Result discoverBrowser(const ProfileReader &reader, const BrowserData &data,
                                                     const QString &bundleID);
 
-/// Several browsers side by side, on as many threads as serve; returns when all are done. Safari, whose profiles no file
-/// tells, has no result. Any thread.
+/// Several browsers side by side, on as many threads as serve; returns when all are done. Safari, whose profiles no
+/// file tells, has no result. Any thread.
 [[nodiscard]] DiscoveryResults discoverBrowsers(const ProfileReader &reader, const BrowserData &data,
                                                 const QList<Browser> &browsers);
 

@@ -49,8 +49,9 @@ std::expected<void, PlatformError> startDetached(const QStringList &commandLine,
     process.setStandardInputFile(QProcess::nullDevice());
     process.setStandardOutputFile(QProcess::nullDevice());
     process.setStandardErrorFile(QProcess::nullDevice());
-    // No file of this process is meant for another one, but libraries and whoever started it may have left some open for
-    // children; a browser would keep them for days. (Qt 6.4 calls no child process modifier for detached processes.)
+    // No file of this process is meant for another one, but libraries and whoever started it may have left some open
+    // for children; a browser would keep them for days. (Qt 6.4 calls no child process modifier for detached
+    // processes.)
     close_range(STDERR_FILENO + 1, ~0U, CLOSE_RANGE_CLOEXEC);
     if (process.startDetached())
         return {};
