@@ -1,13 +1,11 @@
 #include "Vantrel/BrowserDiscovery.h"
 
+#include "Vantrel/SideBySide.h"
 #include "VantrelKit/ChromiumDiscovery.h"
 #include "VantrelKit/ProfileList.h"
 
 #include <QSet>
 
-#include <algorithm>
-#include <atomic>
-#include <thread>
 #include <utility>
 #include <vector>
 
@@ -57,12 +55,6 @@ std::vector<Run> plannedRuns(const QList<Browser> &browsers)
     return runs;
 }
 
-/// One more than there are processors: one is likely to wait for another program or for the disk.
-size_t workerCount()
-{
-    return std::thread::hardware_concurrency() + 1;
-}
-
 } // namespace
 
 ProfileReader::Result discoverBrowser(const ProfileReader &reader, const BrowserData &data, const QString &bundleID)
@@ -85,18 +77,8 @@ ProfileReader::Result discoverBrowser(const ProfileReader &reader, const Browser
 DiscoveryResults discoverBrowsers(const ProfileReader &reader, const BrowserData &data, const QList<Browser> &browsers)
 {
     std::vector<Run> runs = plannedRuns(browsers);
-    std::atomic<size_t> next = 0;
-    const auto work = [&] {
-        for (size_t index = next++; index < runs.size(); index = next++)
-            runs[index].result = discoverBrowser(reader, data, runs[index].bundleID);
-    };
-    {
-        // The calling thread takes its share, so that a single browser costs no thread at all.
-        std::vector<std::jthread> helpers;
-        for (size_t count = 1; count < std::min(runs.size(), workerCount()); ++count)
-            helpers.emplace_back(work);
-        work();
-    }
+    sideBySide(runs.size(),
+               [&](size_t index) { runs[index].result = discoverBrowser(reader, data, runs[index].bundleID); });
     DiscoveryResults results;
     for (Run &run : runs)
         results.insert(run.bundleID, std::move(run.result));

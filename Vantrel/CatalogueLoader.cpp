@@ -1,6 +1,6 @@
 #include "Vantrel/CatalogueLoader.h"
 
-#include "Vantrel/InstalledBrowsers.h"
+#include "Vantrel/BrowserSurvey.h"
 
 namespace vantrel {
 
@@ -16,8 +16,9 @@ LoadedCatalogue loadCatalogue(const Workspace &workspace, const BrowserData &dat
     } else {
         loaded.savedStateError = saved.error();
     }
-    catalogue.browsers = installedBrowsers(workspace, bundleIDs);
-    loaded.results = discoverBrowsers(reader, data, catalogue.browsers);
+    BrowserSurvey survey = BrowserSurvey::make(workspace, data, reader, bundleIDs);
+    catalogue.browsers = std::move(survey.browsers);
+    loaded.results = std::move(survey.results);
     catalogue.profiles = withResults(loaded.results, catalogue.browsers, std::move(catalogue.profiles));
     return loaded;
 }

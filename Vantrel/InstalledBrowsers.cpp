@@ -4,15 +4,21 @@
 
 namespace vantrel {
 
+std::optional<Browser> installedBrowser(const Workspace &workspace, const QString &bundleID)
+{
+    const auto family = KnownBrowsers::family(bundleID);
+    const auto application = family ? workspace.applicationWithBundleIdentifier(bundleID) : std::nullopt;
+    if (!application)
+        return std::nullopt;
+    return Browser{bundleID, application->name, application->url, *family};
+}
+
 QList<Browser> installedBrowsers(const Workspace &workspace, const QStringList &bundleIDs)
 {
     QList<Browser> browsers;
     for (const QString &bundleID : bundleIDs) {
-        const auto family = KnownBrowsers::family(bundleID);
-        if (!family)
-            continue;
-        if (const auto application = workspace.applicationWithBundleIdentifier(bundleID))
-            browsers.append({bundleID, application->name, application->url, *family});
+        if (auto browser = installedBrowser(workspace, bundleID))
+            browsers.append(*std::move(browser));
     }
     return sortedForDisplay(std::move(browsers));
 }

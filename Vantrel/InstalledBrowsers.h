@@ -7,6 +7,9 @@
 
 namespace vantrel {
 
+/// The browser, if it is known and installed. Any thread.
+[[nodiscard]] std::optional<Browser> installedBrowser(const Workspace &workspace, const QString &bundleID);
+
 /// The browsers among `bundleIDs` that are installed, in the order in which they are shown.
 [[nodiscard]] QList<Browser> installedBrowsers(const Workspace &workspace, const QStringList &bundleIDs);
 

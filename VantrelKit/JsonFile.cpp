@@ -2,7 +2,6 @@
 
 #include <QFile>
 #include <QFileInfo>
-#include <QJsonDocument>
 
 #include <algorithm>
 
@@ -37,13 +36,43 @@ void fill(Parser &parser, const QByteArray &text)
     std::ranges::copy(text, parser.buffer.begin());
 }
 
-/// simdjson refuses numbers beyond 64 bits, which are good JSON all the same. Qt writes them as its doubles.
+bool isDigit(char character)
+{
+    return character >= '0' && character <= '9';
+}
+
+/// The place behind a string that begins at `quote`.
+char *endOfString(char *quote, char *end)
+{
+    char *place = quote + 1;
+    while (place < end && *place != '"')
+        place += *place == '\\' ? 2 : 1;
+    return std::min(place + 1, end);
+}
+
+/// Puts blanks in the place of digits that make whole numbers longer than 64 bits. What is no JSON stays none.
+void shortenIntegers(char *text, char *end)
+{
+    constexpr qsizetype longest = 18;
+    for (char *place = text; place < end;) {
+        if (*place == '"') {
+            place = endOfString(place, end);
+            continue;
+        }
+        char *const digitsEnd = std::find_if_not(place, end, isDigit);
+        const bool isInteger = digitsEnd == end || (*digitsEnd != '.' && *digitsEnd != 'e' && *digitsEnd != 'E');
+        if (digitsEnd - place > longest && isInteger)
+            std::fill(place + longest, digitsEnd, ' ');
+        place = std::max(digitsEnd, place + 1);
+    }
+}
+
+/// simdjson refuses whole numbers beyond 64 bits, which are good JSON all the same. Nobody here reads numbers.
 std::optional<simdjson::dom::element> parseWithLargeNumbers(Parser &parser, qsizetype size)
 {
-    const QByteArray text = QJsonDocument::fromJson(parser.buffer.first(size)).toJson(QJsonDocument::Compact);
-    fill(parser, text);
+    shortenIntegers(parser.buffer.data(), parser.buffer.data() + size);
     simdjson::dom::element root;
-    return parser.parse(text.size()).get(root) == simdjson::SUCCESS ? std::optional(root) : std::nullopt;
+    return parser.parse(size).get(root) == simdjson::SUCCESS ? std::optional(root) : std::nullopt;
 }
 
 std::optional<simdjson::dom::element> parsed(Parser &parser, qsizetype size)

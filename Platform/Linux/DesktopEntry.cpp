@@ -56,7 +56,7 @@ DesktopEntryFile DesktopEntryFile::read(const QString &path)
     const KeyFile file(g_key_file_new());
     // Opening anything but a plain file could block, as a pipe does.
     if (!QFileInfo(path).isFile() ||
-        !g_key_file_load_from_file(file.get(), QFile::encodeName(path).constData(), G_KEY_FILE_NONE, nullptr))
+        g_key_file_load_from_file(file.get(), QFile::encodeName(path).constData(), G_KEY_FILE_NONE, nullptr) == FALSE)
         return {};
     if (g_key_file_get_boolean(file.get(), G_KEY_FILE_DESKTOP_GROUP, G_KEY_FILE_DESKTOP_KEY_HIDDEN, nullptr))
         return {.isHidden = true, .entry = std::nullopt};

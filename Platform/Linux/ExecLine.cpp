@@ -90,7 +90,7 @@ std::expected<QStringList, PlatformError> execWords(const QString &exec)
     gint count = 0;
     gchar **words = nullptr;
     GError *error = nullptr;
-    if (!g_shell_parse_argv(exec.toUtf8().constData(), &count, &words, &error)) {
+    if (g_shell_parse_argv(exec.toUtf8().constData(), &count, &words, &error) == FALSE) {
         const PlatformError failure{QString::fromUtf8(error->message)};
         g_error_free(error);
         return std::unexpected(failure);

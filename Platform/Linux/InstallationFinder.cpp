@@ -21,19 +21,7 @@ bool belongsTo(const BrowserPackage &package, const DesktopEntry &entry)
     Q_UNREACHABLE();
 }
 
-} // namespace
-
-QStringList InstallationFinder::applicationFolders() const
-{
-    QStringList folders{joinedPath(environment_.dataHome, u"applications"_s),
-                        joinedPath(environment_.dataHome, u"flatpak/exports/share/applications"_s)};
-    for (const QString &dir : environment_.dataDirs)
-        folders.append(joinedPath(dir, u"applications"_s));
-    folders.removeDuplicates();
-    return folders;
-}
-
-std::optional<DesktopEntry> InstallationFinder::entryOf(const BrowserPackage &package, const QStringList &folders) const
+std::optional<DesktopEntry> entryOf(const BrowserPackage &package, const QStringList &folders)
 {
     for (const std::string_view name : package.entries) {
         if (name.empty())
@@ -51,6 +39,18 @@ std::optional<DesktopEntry> InstallationFinder::entryOf(const BrowserPackage &pa
         }
     }
     return std::nullopt;
+}
+
+} // namespace
+
+QStringList InstallationFinder::applicationFolders() const
+{
+    QStringList folders{joinedPath(environment_.dataHome, u"applications"_s),
+                        joinedPath(environment_.dataHome, u"flatpak/exports/share/applications"_s)};
+    for (const QString &dir : environment_.dataDirs)
+        folders.append(joinedPath(dir, u"applications"_s));
+    folders.removeDuplicates();
+    return folders;
 }
 
 bool InstallationFinder::yields(const Installation &installation) const

@@ -25,7 +25,6 @@ public:
 private:
     /// Folders with desktop entries, the weightiest first.
     [[nodiscard]] QStringList applicationFolders() const;
-    [[nodiscard]] std::optional<DesktopEntry> entryOf(const BrowserPackage &package, const QStringList &folders) const;
     /// True for an installation whose profiles are those of another browser that is installed, too.
     [[nodiscard]] bool yields(const Installation &installation) const;
 

@@ -133,15 +133,16 @@ QStringList candidateDataFolders(const BrowserPackage &package, const DesktopEnt
 
 bool holdsProfiles(const QString &bundleID, const QString &folder)
 {
-    const auto entries = listDataFolder(folder);
-    if (!entries || !*entries)
-        return !entries;
+    const auto listed = listDataFolder(folder);
+    if (!listed)
+        return true;
+    const QList<FolderEntry> entries = listed->value_or(QList<FolderEntry>());
     const auto has = [&entries](QLatin1StringView name) {
-        return std::ranges::find(**entries, name, &FolderEntry::name) != (*entries)->end();
+        return std::ranges::find(entries, name, &FolderEntry::name) != entries.end();
     };
     if (KnownBrowsers::family(bundleID) == BrowserFamily::firefox)
         return has("profiles.ini"_L1) || has("Profile Groups"_L1);
-    return has("Preferences"_L1) || !chromiumProfileFolders(**entries).isEmpty();
+    return has("Preferences"_L1) || !chromiumProfileFolders(entries).isEmpty();
 }
 
 QList<BrowserDataFolder> actualDataFolders(const QString &bundleID, const QStringList &candidates)

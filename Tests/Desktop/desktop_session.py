@@ -80,7 +80,7 @@ class DesktopSession:
             for part in self._parts:
                 part.wait()
         finally:
-            shutil.rmtree(self.root, ignore_errors=True)
+            shutil.rmtree(self.root)
 
     def run(self, command: Sequence[str | Path]) -> subprocess.CompletedProcess[bytes]:
         """Runs a command to its end."""

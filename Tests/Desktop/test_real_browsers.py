@@ -220,12 +220,13 @@ class Opening:
         self.assertIn(window.pid, [each.pid for each in self.browser.processes()])
 
     def assert_no_trace_of(self, *links: str) -> None:
+        """Neither in a known profile, nor is there another that the browser may have made for them."""
         self.browser.quit()
+        self.assertEqual(self.browser.profile_folders(), {each.folder for each in self.browser.profiles})
         for link in links:
             self.assertEqual(self.browser.profiles_that_visited(link), [])
 
     def test_a_private_window_opens_beside_the_profiles(self) -> None:
-        folders = self.browser.profile_folders()
         for number, profile in enumerate(self.browser.profiles):
             self.open(profile, self.link(f"/{number}"))
             self.assert_opened_in(profile, self.link(f"/{number}"))
@@ -234,15 +235,12 @@ class Opening:
         self.assert_opened_in_private(self.link("/private"))
         self.assert_only_runs(*running)
         self.assert_no_trace_of(self.link("/private"))
-        self.assertEqual(self.browser.profile_folders(), folders)
 
     def test_a_private_window_opens_alone(self) -> None:
-        folders = self.browser.profile_folders()
         self.vantrel("open", self.browser.private_identifier, self.link("/private"))
         self.assert_opened_in_private(self.link("/private"))
         self.assertEqual(len(self.session.windows()), 1)
         self.assert_no_trace_of(self.link("/private"))
-        self.assertEqual(self.browser.profile_folders(), folders)
 
     def test_several_links_open_in_a_running_browsers_private_window(self) -> None:
         # Running before, as several Firefoxes that start at the same time may miss each other.

@@ -22,9 +22,12 @@ struct TextMember {
 TextMember textMember(const QByteArray &json)
 {
     simdjson::dom::object object;
-    const auto root = json::parse(json);
-    EXPECT_TRUE(root && root->get(object) == simdjson::SUCCESS) << json.toStdString();
     TextMember result{.isReadable = false, .text = u"untouched"_s};
+    const auto root = json::parse(json);
+    if (!root || root->get(object) != simdjson::SUCCESS) {
+        ADD_FAILURE() << json.toStdString();
+        return result;
+    }
     result.isReadable = json::readText(object, "member", result.text);
     return result;
 }
@@ -60,6 +63,31 @@ TEST(JsonFile, TextThatIsNotJsonFromBeginningToEndIsNone)
         EXPECT_FALSE(isJson(text)) << text.toStdString();
     EXPECT_FALSE(isJson(QByteArray("{}\0", 3)));
     EXPECT_FALSE(isJson(QByteArray()));
+}
+
+TEST(JsonFile, NumbersBeyond64BitsAreJson)
+{
+    for (const QByteArray number : {"18446744073709551615", "18446744073709551616", "-9223372036854775809",
+                                    "123456789012345678901234567890", "1e300"}) {
+        EXPECT_TRUE(isJson("[" + number + "]")) << number.toStdString();
+        EXPECT_EQ(textMember("{\"a\": " + number + ", \"member\": \"W\xC3\xB6rk \\u05d0\\n\"}").text,
+                  u"W\u00f6rk \u05d0\n"_s);
+    }
+}
+
+TEST(JsonFile, NumbersBeyond64BitsExcuseNothingElse)
+{
+    const QByteArray number = "123456789012345678901234567890";
+    for (const QByteArray text : {"[N", "[N,]", "[N] x", "{N}", "[N, 01]", "[01, N]", "[N, \"\xff\"]", "[N, nul]",
+                                  "[Na]", "[0N]", "[+N]", "N N", "[N][N]"})
+        EXPECT_FALSE(isJson(QByteArray(text).replace("N", number))) << text.toStdString();
+}
+
+TEST(JsonFile, NumbersThatAreNoJsonAreNone)
+{
+    for (const QByteArray text :
+         {"[01]", "[-]", "[1.]", "[.5]", "[1e]", "[0x10]", "[1_000]", "[--1]", "[NaN]", "[Infinity]"})
+        EXPECT_FALSE(isJson(text)) << text.toStdString();
 }
 
 TEST(JsonFile, WhatWasParsedBeforeLeavesNoTrace)

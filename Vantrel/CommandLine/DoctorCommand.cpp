@@ -1,10 +1,9 @@
 #include "Vantrel/CommandLine/DoctorCommand.h"
 
-#include "Vantrel/BrowserDiscovery.h"
+#include "Vantrel/BrowserSurvey.h"
 #include "Vantrel/CommandLine/OrderedJson.h"
 #include "Vantrel/CommandLine/PrintableText.h"
 #include "Vantrel/CommandLine/Problems.h"
-#include "Vantrel/InstalledBrowsers.h"
 #include "VantrelKit/KnownBrowsers.h"
 
 #include <QCoreApplication>
@@ -136,8 +135,8 @@ CommandSyntax DoctorCommand::syntax()
 
 QCoro::Task<ExitStatus> DoctorCommand::run(CommandArguments arguments, CommandContext &context)
 {
-    const QList<Browser> browsers = installedBrowsers(context.workspace, KnownBrowsers::all());
-    const DiscoveryResults results = discoverBrowsers(context.reader, context.browserData, browsers);
+    const auto [browsers, results] =
+        BrowserSurvey::make(context.workspace, context.browserData, context.reader, KnownBrowsers::all());
     QList<Finding> findings;
     for (const QString &bundleID : KnownBrowsers::all())
         findings.append(examine(bundleID, browsers, results, context));
