@@ -6,7 +6,6 @@
 
 #include <QSet>
 
-#include <utility>
 #include <vector>
 
 namespace vantrel {
@@ -80,8 +79,8 @@ DiscoveryResults discoverBrowsers(const ProfileReader &reader, const BrowserData
     sideBySide(runs.size(),
                [&](size_t index) { runs[index].result = discoverBrowser(reader, data, runs[index].bundleID); });
     DiscoveryResults results;
-    for (Run &run : runs)
-        results.insert(run.bundleID, std::move(run.result));
+    for (const Run &run : runs)
+        results.insert(run.bundleID, run.result);
     return results;
 }
 

@@ -29,12 +29,12 @@ BrowserSurvey BrowserSurvey::make(const Workspace &workspace, const BrowserData 
             finding.result = discoverBrowser(reader, data, finding.browser->bundleID);
     });
     BrowserSurvey survey;
-    for (Finding &finding : findings) {
+    for (const Finding &finding : findings) {
         if (!finding.browser)
             continue;
         survey.browsers.append(*finding.browser);
         if (finding.browser->family != BrowserFamily::safari)
-            survey.results.insert(finding.browser->bundleID, std::move(finding.result));
+            survey.results.insert(finding.browser->bundleID, finding.result);
     }
     survey.browsers = sortedForDisplay(std::move(survey.browsers));
     return survey;

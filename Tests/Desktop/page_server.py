@@ -1,9 +1,11 @@
 """A web server on the loopback that remembers who asked for what."""
 
+import sys
 import threading
 from dataclasses import dataclass
 from html import escape
 from http.server import BaseHTTPRequestHandler, ThreadingHTTPServer
+from typing import Any
 from urllib.parse import quote, unquote
 
 from .waiting import wait_for
@@ -30,8 +32,7 @@ class PageServer:
         class Handler(_Handler):
             log = requests
 
-        self._server = ThreadingHTTPServer(("127.0.0.1", 0), Handler)
-        self._server.daemon_threads = True
+        self._server = _Server(("127.0.0.1", 0), Handler)
         self._thread = threading.Thread(target=self._server.serve_forever, daemon=True)
 
     def __enter__(self) -> "PageServer":
@@ -60,6 +61,15 @@ class PageServer:
         return wait_for(
             lambda: [each for each in self.requests[after:] if each.target == target], f"a request for {target}"
         )
+
+
+class _Server(ThreadingHTTPServer):
+    daemon_threads = True
+
+    def handle_error(self, request: Any, client_address: Any) -> None:
+        """A browser that is being closed does not wait for its answers."""
+        if not isinstance(sys.exception(), ConnectionError):
+            super().handle_error(request, client_address)
 
 
 class _Handler(BaseHTTPRequestHandler):

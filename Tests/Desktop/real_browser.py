@@ -18,7 +18,7 @@ from .waiting import wait_for
 
 @dataclass(frozen=True)
 class BrowserProfile:
-    """A profile by its key in Vantrel's ids, such as "chromium:Default"."""
+    """A profile by its key in Vantrel's ids, such as "chromium:Default". No two browsers share a name."""
 
     key: str
     name: str

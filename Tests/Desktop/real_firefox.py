@@ -65,14 +65,14 @@ class RealFirefox(RealBrowser):
 
     def _make_profiles(self) -> None:
         # The first becomes the one that a start without a profile uses. The second is outside of Firefox's folder.
-        self._make_profile("Home")
+        self._make_profile("Leisure")
         self._make_profile(f"Büro {self.session.home / 'far away' / 'Büro'}")
         self.profiles = tuple(self._listed_profiles())
         for profile in self.profiles:
             lines = [f"user_pref({json.dumps(key)}, {json.dumps(value)});" for key, value in _PREFERENCES.items()]
             (profile.folder / "user.js").write_text("\n".join([*lines, ""]), "utf-8")
             self._mark(profile.name, [_PROGRAM, "--profile", profile.folder])
-        self._settle_the_default("Home")
+        self._settle_the_default("Leisure")
 
     def _settle_the_default(self, name: str) -> None:
         """A start without a profile must not make another one: private windows are opened like that."""

@@ -4,7 +4,7 @@ import time
 from collections.abc import Callable
 from typing import TypeVar
 
-PATIENCE_SECONDS = 60.0
+PATIENCE_SECONDS = 120.0
 _PAUSE_SECONDS = 0.02
 
 Answer = TypeVar("Answer")

@@ -17,7 +17,7 @@ protected:
     [[nodiscard]] QString element(const QString &bundleID)
     {
         const QString start = uR"({"browserBundleIdentifier":"%1")"_s.arg(bundleID);
-        for (QString line : run({u"doctor"_s, u"--json"_s}).results.split(u'\n')) {
+        for (const QString &line : run({u"doctor"_s, u"--json"_s}).results.split(u'\n')) {
             if (line.startsWith(start))
                 return line.endsWith(u',') ? line.chopped(1) : line;
         }
