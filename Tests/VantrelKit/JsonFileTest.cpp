@@ -75,11 +75,36 @@ TEST(JsonFile, NumbersBeyond64BitsAreJson)
     }
 }
 
+TEST(JsonFile, NumbersBeyond64BitsLeaveTextAsItIs)
+{
+    const QByteArray digits(40, '9');
+    const std::vector<std::pair<QByteArray, QString>> rows{
+        {"N", u"N"_s}, {R"(\"N\" N)", u"\"N\" N"_s}, {R"(\\)", u"\\"_s}, {R"(N\\)", u"N\\"_s}, {R"(\\\"N)", u"\\\"N"_s},
+        {"", u""_s},   {R"(\u0022N)", u"\"N"_s},
+    };
+    for (auto [json, text] : rows) {
+        const QByteArray whole =
+            R"({"before": N, "member": ")" + json + R"(", "N": "N", "after": [-N, N, N.5, 1e2, 0.N]})";
+        EXPECT_EQ(textMember(QByteArray(whole).replace("N", digits)).text,
+                  text.replace(u"N"_s, QString::fromLatin1(digits)))
+            << json.toStdString();
+    }
+}
+
+TEST(JsonFile, NumbersAroundTheLimitsAreJson)
+{
+    for (qsizetype length = 1; length < 60; ++length) {
+        for (const QByteArray form : {"[N]", "[-N]", "[N,N]", "[ N ]", "{\"a\":N}", "[N.5]", "[1.N]", "[N.Ne0]"})
+            EXPECT_TRUE(isJson(QByteArray(form).replace("N", QByteArray(length, '9')))) << form.toStdString() << length;
+    }
+}
+
 TEST(JsonFile, NumbersBeyond64BitsExcuseNothingElse)
 {
     const QByteArray number = "123456789012345678901234567890";
-    for (const QByteArray text : {"[N", "[N,]", "[N] x", "{N}", "[N, 01]", "[01, N]", "[N, \"\xff\"]", "[N, nul]",
-                                  "[Na]", "[0N]", "[+N]", "N N", "[N][N]"})
+    for (const QByteArray text :
+         {"[N", "[N,]", "[N] x", "{N}", "[N, 01]", "[01, N]", "[N, \"\xff\"]", "[N, nul]", "[Na]", "[0N]", "[+N]",
+          "N N", "[N][N]", "[N true]", "[\"a\": N]", "{\"a: N}", "[\"N", "[N, \"\\", "[N, \"a\\\"]"})
         EXPECT_FALSE(isJson(QByteArray(text).replace("N", number))) << text.toStdString();
 }
 

@@ -95,6 +95,9 @@ TEST(ExecLine, ArgumentsTakeThePlaceOfTheFieldCodeForFiles)
         {u"browser %F"_s, {u"browser"_s, u"GIVEN"_s}},
         {u"browser %f"_s, {u"browser"_s, u"GIVEN"_s}},
         {u"browser %U --last"_s, {u"browser"_s, u"GIVEN"_s, u"--last"_s}},
+        {u"browser %u --last"_s, {u"browser"_s, u"GIVEN"_s, u"--last"_s}},
+        {u"browser %F --last"_s, {u"browser"_s, u"GIVEN"_s, u"--last"_s}},
+        {u"browser %f --last"_s, {u"browser"_s, u"GIVEN"_s, u"--last"_s}},
         {u"browser --first \"%u\" --last"_s, {u"browser"_s, u"--first"_s, u"GIVEN"_s, u"--last"_s}},
         // The first of several; the others have nothing to stand for.
         {u"browser %U %F --last %u"_s, {u"browser"_s, u"GIVEN"_s, u"--last"_s}},
@@ -171,9 +174,10 @@ TEST(ExecLine, TheDataFolderItselfNeedsNoProfileSwitch)
 
 TEST(ExecLine, OnlyAFlatpakSeesOtherPaths)
 {
-    const QString path = u"/home/user/.var/app/org.mozilla.firefox/.mozilla/firefox/p"_s;
-    EXPECT_EQ(expanded(entryWith(u"firefox %u"_s), {u"--profile"_s, path}),
-              (QStringList{u"firefox"_s, u"--profile"_s, path}));
+    for (const QString &path : {u"/home/user/.var/app/org.mozilla.firefox/.mozilla/firefox/p"_s,
+                                u"/home/user/.var/app//.mozilla/firefox/p"_s})
+        EXPECT_EQ(expanded(entryWith(u"firefox %u"_s), {u"--profile"_s, path}),
+                  (QStringList{u"firefox"_s, u"--profile"_s, path}));
 }
 
 TEST(ExecLine, OutsideOfAFlatpaksLineMarksAreOrdinaryWords)
