@@ -1,12 +1,9 @@
 #include "Vantrel/BrowserDiscovery.h"
 
+#include "Tests/Vantrel/MeetingBrowserData.h"
 #include "Tests/Vantrel/PlantedBrowsers.h"
 
 #include <gtest/gtest.h>
-
-#include <chrono>
-#include <condition_variable>
-#include <mutex>
 
 using namespace Qt::StringLiterals;
 
@@ -109,34 +106,9 @@ TEST_F(BrowserDiscovery, EveryBrowserButSafariHasAResult)
     EXPECT_TRUE(discoverBrowsers(reader_, planted_.data, {}).isEmpty());
 }
 
-/// Answers only when it is asked for several browsers at a time, or after a while.
-class MeetingBrowserData final : public BrowserData {
-public:
-    explicit MeetingBrowserData(int expected) : expected_(expected) {}
-
-    QList<BrowserDataFolder> dataFolders(const QString &) const override
-    {
-        std::unique_lock lock(mutex_);
-        ++arrived_;
-        changed_.notify_all();
-        changed_.wait_for(lock, std::chrono::seconds(10), [this] { return arrived_ >= expected_; });
-        haveMet_ = haveMet_ && arrived_ >= expected_;
-        return {};
-    }
-
-    bool haveMet() const { return haveMet_; }
-
-private:
-    int expected_;
-    mutable std::mutex mutex_;
-    mutable std::condition_variable changed_;
-    mutable int arrived_ = 0;
-    mutable bool haveMet_ = true;
-};
-
 TEST_F(BrowserDiscovery, BrowsersAreReadSideBySide)
 {
-    const MeetingBrowserData data(2);
+    const test::MeetingBrowserData data(2);
     EXPECT_EQ(discoverBrowsers(reader_, data, {chrome, firefox}).size(), 2);
     EXPECT_TRUE(data.haveMet()) << "One browser waited for another to be read.";
 }

@@ -25,8 +25,6 @@ void printDebugForm(const Value &value, std::ostream *stream)
     *stream << text.toStdString();
 }
 
-// NOLINTBEGIN(readability-identifier-naming): the name is GoogleTest's.
-
 inline void PrintTo(const QString &text, std::ostream *stream)
 {
     printDebugForm(text, stream);
@@ -98,7 +96,5 @@ inline void PrintTo(const LaunchLink &link, std::ostream *stream)
         stream);
     printDebugForm(link.urls, stream);
 }
-
-// NOLINTEND(readability-identifier-naming)
 
 } // namespace vantrel

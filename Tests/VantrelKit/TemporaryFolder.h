@@ -17,8 +17,6 @@ public:
     [[nodiscard]] QString path() const;
     [[nodiscard]] QString path(const QString &relative) const;
 
-    // NOLINTBEGIN(modernize-use-nodiscard): they are called for what they make.
-
     /// Each makes what is missing above it, and returns the full path.
     QString makeFolder(const QString &relative) const;
     QString write(const QString &relative, const QByteArray &content = {}) const;
@@ -27,8 +25,6 @@ public:
 
     /// A shell script that can be run; `body` is what follows the first line.
     QString writeScript(const QString &relative, const QByteArray &body) const;
-
-    // NOLINTEND(modernize-use-nodiscard)
 
     [[nodiscard]] QByteArray read(const QString &relative) const;
 

@@ -22,7 +22,8 @@ namespace vantrel {
 
 void PrintTo(const DesktopEntry &entry, std::ostream *stream)
 {
-    printDebugForm(QStringList{entry.path, entry.name, entry.exec, entry.icon, entry.workingDirectory, entry.flatpakID},
+    printDebugForm(QStringList{entry.path, entry.name, entry.exec, entry.icon, entry.workingDirectory, entry.flatpakID,
+                               entry.snapName},
                    stream);
 }
 
@@ -58,7 +59,8 @@ protected:
 
 TEST_F(DesktopEntryTest, AnApplicationsEntryIsReadWhole)
 {
-    const QByteArray keys = "Icon=my-icon\nPath=/opt/my browser\nX-Flatpak=org.example.browser\n";
+    const QByteArray keys = "Icon=my-icon\nPath=/opt/my browser\nX-Flatpak=org.example.browser\n"
+                            "X-SnapInstanceName=browser\n";
     const DesktopEntryFile file = read(test::desktopEntry(u"/bin/sh \"a b\" %U %%"_s, keys));
     EXPECT_FALSE(file.isHidden);
     const DesktopEntry expected{.path = home_.path(u"entry.desktop"_s),
@@ -66,7 +68,8 @@ TEST_F(DesktopEntryTest, AnApplicationsEntryIsReadWhole)
                                 .exec = u"/bin/sh \"a b\" %U %%"_s,
                                 .icon = u"my-icon"_s,
                                 .workingDirectory = u"/opt/my browser"_s,
-                                .flatpakID = u"org.example.browser"_s};
+                                .flatpakID = u"org.example.browser"_s,
+                                .snapName = u"browser"_s};
     EXPECT_EQ(file.entry, expected);
 }
 
@@ -77,6 +80,7 @@ TEST_F(DesktopEntryTest, WhatIsNotThereIsEmpty)
     EXPECT_EQ(entry->icon, QString());
     EXPECT_EQ(entry->workingDirectory, QString());
     EXPECT_EQ(entry->flatpakID, QString());
+    EXPECT_EQ(entry->snapName, QString());
 }
 
 TEST_F(DesktopEntryTest, EscapesOfTheFileAreTakenOffOnce)

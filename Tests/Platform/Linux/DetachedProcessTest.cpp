@@ -88,10 +88,39 @@ TEST_F(DetachedProcess, ItHasASessionOfItsOwnAndNoTerminal)
     EXPECT_EQ(started.terminal, 0);
 }
 
+/// Gives one of this process's descriptors another destination, and puts the former one back.
+class Redirection {
+public:
+    Redirection(int descriptor, const QString &path) : descriptor_(descriptor), former_(dup(descriptor))
+    {
+        const int other = open(QFile::encodeName(path).constData(), O_RDWR | O_CLOEXEC);
+        EXPECT_GE(other, 0);
+        EXPECT_EQ(dup2(other, descriptor_), descriptor_);
+        close(other);
+    }
+    ~Redirection()
+    {
+        dup2(former_, descriptor_);
+        close(former_);
+    }
+    Q_DISABLE_COPY_MOVE(Redirection)
+
+private:
+    int descriptor_;
+    int former_;
+};
+
 TEST_F(DetachedProcess, ItReadsAndWritesNothing)
 {
-    const QMap<int, QByteArray> descriptors = report().descriptors;
-    for (const int number : {0, 1, 2})
+    const QString ours = home_.write(u"ours"_s);
+    QMap<int, QByteArray> descriptors;
+    {
+        const Redirection input(STDIN_FILENO, ours);
+        const Redirection output(STDOUT_FILENO, ours);
+        const Redirection errors(STDERR_FILENO, ours);
+        descriptors = report().descriptors;
+    }
+    for (const int number : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO})
         EXPECT_EQ(descriptors.value(number), "/dev/null") << number;
 }
 
@@ -99,7 +128,7 @@ TEST_F(DetachedProcess, ItInheritsNoOpenFile)
 {
     const QByteArray path = QFile::encodeName(home_.write(u"secret"_s, "secret"));
     // Without O_CLOEXEC, as libraries and a careless parent leave theirs.
-    const int inheritable = open(path.constData(), O_RDONLY); // NOLINT(android-cloexec-open)
+    const int inheritable = open(path.constData(), O_RDONLY);
     ASSERT_GE(inheritable, 3);
     const QMap<int, QByteArray> descriptors = report().descriptors;
     close(inheritable);

@@ -73,7 +73,7 @@ Report report(int argumentCount, char **arguments, char **variables)
 const char *variable(const char *name)
 {
     // Read before there is a second thread.
-    return std::getenv(name); // NOLINT(concurrency-mt-unsafe)
+    return std::getenv(name);
 }
 
 } // namespace

@@ -118,11 +118,11 @@ TEST_F(ListCommandTest, AControlCharacterIsShownAndNotObeyed)
 
 TEST_F(ListCommandTest, WideCharactersTakeTwoColumns)
 {
-    ASSERT_NE(std::setlocale(LC_CTYPE, "C.UTF-8"), nullptr); // NOLINT(concurrency-mt-unsafe)
+    ASSERT_NE(std::setlocale(LC_CTYPE, "C.UTF-8"), nullptr);
     planted.workspace.uninstall(test::firefox);
     planted.plantChromium(test::chrome, u"C"_s, {{u"Default"_s, u"\u65e5\u672c\u8a9e"_s}});
     const Answer answer = run({u"list"_s});
-    std::setlocale(LC_CTYPE, "C"); // NOLINT(concurrency-mt-unsafe)
+    std::setlocale(LC_CTYPE, "C");
     EXPECT_EQ(answer, done(u"C – \u65e5\u672c\u8a9e            com.google.Chrome/chromium:Default\n"
                            "C – Profile 1         com.google.Chrome/chromium:Profile 1\n"
                            "C – Incognito Window  com.google.Chrome/private\n"_s));

@@ -60,12 +60,11 @@ TEST(PrintableText, NoOddTextHasAControlCharacterLeft)
 /// Sets what the C library knows of characters, and puts it back.
 class CharacterLocale {
 public:
-    explicit CharacterLocale(const char *name)
-        : former_(std::setlocale(LC_CTYPE, nullptr)) // NOLINT(concurrency-mt-unsafe)
+    explicit CharacterLocale(const char *name) : former_(std::setlocale(LC_CTYPE, nullptr))
     {
-        EXPECT_NE(std::setlocale(LC_CTYPE, name), nullptr) << name; // NOLINT(concurrency-mt-unsafe)
+        EXPECT_NE(std::setlocale(LC_CTYPE, name), nullptr) << name;
     }
-    ~CharacterLocale() { std::setlocale(LC_CTYPE, former_.c_str()); } // NOLINT(concurrency-mt-unsafe)
+    ~CharacterLocale() { std::setlocale(LC_CTYPE, former_.c_str()); }
     Q_DISABLE_COPY_MOVE(CharacterLocale)
 
 private:
