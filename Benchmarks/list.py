@@ -1,10 +1,12 @@
 #!/usr/bin/python3
 """Measures `vantrel list` as a whole process, against scripts that do the same and against reading the files alone.
 
-    list.py [HOME]
+    list.py
 
-HOME is a folder that home.py made; without it one is made for the time being. The scripts' output has to be the
-program's to the byte, else nothing is measured.
+How much is to be read depends on where profiles have their names: Local State names all of a browser's, or their own
+Preferences of 256 KiB do. So it is measured in four homes: with no name, with some, with half and with all names in
+Preferences. Without any, most of the time is that of starting a process, the program's as well as Python's. The
+scripts' output has to be the program's to the byte, else nothing is measured.
 
 `cat` shows what it costs just to read all Local State and Preferences files. GNU cat, unlike GNU tar and grep, pays no
 heed to its output being /dev/null: it reads every byte, and writing costs nothing. That is the least that reading can
@@ -12,12 +14,12 @@ cost it, so the goal is set against it. The row through a pipe, where each byte 
 comparison.
 """
 
-import argparse
 import difflib
 import subprocess
+import tempfile
 from pathlib import Path
 
-from home import Home, given_or_planted
+from home import PROFILE_COUNT, UNNAMED_COUNT, Home, plant
 from measurement import Contender, Process, measure, measured_program, require, table, verdict
 
 HERE = Path(__file__).resolve().parent
@@ -41,7 +43,7 @@ def check_same_output(program: Process, *scripts: Process) -> None:
         raise SystemExit("Nothing is listed: the home is no home that home.py made.")
 
 
-def run(home: Home) -> None:
+def run(home: Home, unnamed: int) -> None:
     for path, package in TOOLS.items():
         require(Path(path), f"install the package {package}")
     environment = home.environment()
@@ -58,16 +60,16 @@ def run(home: Home) -> None:
     piped_reading = Contender("cat through a pipe", cat.run_through_pipe)
     contenders = [vantrel, python, shell, reading, piped_reading]
     measure(contenders)
-    print(table(f"List {len(output(program))} profiles", contenders, python))
+    print(table(f"List {len(output(program))} profiles, {unnamed} of {PROFILE_COUNT} named in Preferences", contenders, python))
     print(verdict("a fifth of list_reference.py's time", vantrel.median / python.median, PYTHON_GOAL))
     print(verdict("less than twice the time of cat to /dev/null", vantrel.median / reading.median, CAT_GOAL))
 
 
 def main() -> None:
-    parser = argparse.ArgumentParser(description="Measures `vantrel list`.")
-    parser.add_argument("home", nargs="?", type=Path, help="a folder that home.py made")
-    with given_or_planted(parser.parse_args().home) as home:
-        run(home)
+    for unnamed in (0, UNNAMED_COUNT, PROFILE_COUNT // 2, PROFILE_COUNT):
+        with tempfile.TemporaryDirectory(prefix="vantrel-benchmark-") as folder:
+            run(plant(Path(folder).resolve() / "machine", unnamed), unnamed)
+        print()
 
 
 if __name__ == "__main__":
