@@ -6,7 +6,8 @@ say() { printf '== %s\n' "$*" >&2; }
 fail() { printf '%s: %s\n' "$(basename "$0")" "$*" >&2; exit 1; }
 
 # What building takes, and what the tests take beyond that.
-build_packages=(g++ cmake ninja-build ccache pkg-config qt6-base-dev qcoro-qt6-dev libsimdjson-dev libglib2.0-dev sqlite3)
+build_packages=(g++ cmake ninja-build ccache pkg-config qt6-base-dev
+  qt6-svg-dev qcoro-qt6-dev libsimdjson-dev libglib2.0-dev sqlite3)
 test_packages=(libgtest-dev libgmock-dev libbenchmark-dev qt6-image-formats-plugins clang-19 clang-format-19 clang-tidy-19
   shellcheck git python3 python3-flake8 desktop-file-utils bubblewrap util-linux jq chromium firefox-esr xvfb openbox xdotool
   x11-utils imagemagick dbus)
