@@ -4,11 +4,16 @@
 
 namespace vantrel {
 
+QString ProfileCatalogue::defaultName(const Profile &profile)
+{
+    return profile.target.isPrivate() ? privateWindowName(profile.browserBundleID) : profile.name;
+}
+
 QString ProfileCatalogue::displayName(const Profile &profile) const
 {
     if (const QString custom = customNames.value(profile.id()); !custom.isEmpty())
         return custom;
-    return profile.target.isPrivate() ? privateWindowName(profile.browserBundleID) : profile.name;
+    return defaultName(profile);
 }
 
 QString ProfileCatalogue::title(const Profile &profile) const

@@ -19,8 +19,10 @@ struct ProfileCatalogue {
     QSet<QString> hidden;
     QHash<QString, QString> customNames;
 
-    /// The name that the user sees: the one the user gave, else the private window's, else the browser's for the
-    /// profile.
+    /// The name without the user's doing: the private window's, else the browser's for the profile.
+    [[nodiscard]] static QString defaultName(const Profile &profile);
+
+    /// The name that the user sees: the one the user gave, else the default name.
     [[nodiscard]] QString displayName(const Profile &profile) const;
 
     /// The display name with the browser's before it.

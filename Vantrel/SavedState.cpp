@@ -3,16 +3,31 @@
 #include "VantrelKit/JsonDecoding.h"
 #include "VantrelKit/ProfileJson.h"
 
+#include <QCoreApplication>
+#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QJsonArray>
 #include <QJsonDocument>
+#include <QSaveFile>
 #include <QStandardPaths>
 
 using namespace Qt::StringLiterals;
 
 namespace vantrel {
 namespace {
+
+struct Texts {
+    Q_DECLARE_TR_FUNCTIONS(SavedState)
+};
+
+/// In an order of its own, so that the same state always makes the same file.
+QJsonArray sortedArray(const QSet<QString> &strings)
+{
+    QStringList list = strings.values();
+    list.sort();
+    return QJsonArray::fromStringList(list);
+}
 
 template <typename Value>
 using Decoded = std::expected<Value, DecodingError>;
@@ -103,6 +118,37 @@ std::expected<SavedState, DecodingError> SavedState::read(const QString &path)
     if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly))
         return SavedState();
     return decode(file.readAll());
+}
+
+QByteArray SavedState::encode() const
+{
+    QJsonArray records;
+    for (const Profile &profile : profiles)
+        records.append(toJson(profile));
+    QJsonObject names;
+    for (auto entry = customNames.constBegin(); entry != customNames.constEnd(); ++entry)
+        names.insert(entry.key(), entry.value());
+    const QJsonObject envelope{
+        {u"profiles"_s, records},
+        {u"hidden"_s, sortedArray(hidden)},
+        {u"customNames"_s, names},
+        {u"searchedSafari"_s, sortedArray(searchedSafari)},
+    };
+    return QJsonDocument(envelope).toJson(QJsonDocument::Compact);
+}
+
+std::expected<void, QString> SavedState::write(const QString &path) const
+{
+    const QString folder = QFileInfo(path).path();
+    if (!QDir().mkpath(folder)) {
+        //: Reason in the log why the profiles were not saved. The placeholder is a folder's path.
+        return std::unexpected(Texts::tr("The folder %1 can't be made.").arg(folder));
+    }
+    QSaveFile file(path);
+    const QByteArray json = encode();
+    if (!file.open(QIODevice::WriteOnly) || file.write(json) != json.size() || !file.commit())
+        return std::unexpected(file.errorString());
+    return {};
 }
 
 } // namespace vantrel

@@ -32,6 +32,13 @@ struct SavedState {
     /// The state in a file; the state of a first start when there is no file or it can't be opened.
     [[nodiscard]] static std::expected<SavedState, DecodingError> read(const QString &path);
 
+    /// Compact JSON with exactly these four members.
+    [[nodiscard]] QByteArray encode() const;
+
+    /// Writes the file in one step, so that a reader or a crash never meets half of it, and makes its folder. Fails
+    /// with the system's reason.
+    [[nodiscard]] std::expected<void, QString> write(const QString &path) const;
+
     friend bool operator==(const SavedState &, const SavedState &) = default;
 };
 

@@ -25,9 +25,11 @@ std::expected<DesktopEntry, PlatformError> entryAt(const QUrl &application)
 
 } // namespace
 
-DesktopWorkspace::DesktopWorkspace(InstallationFinder finder, const QProcessEnvironment &variables)
+DesktopWorkspace::DesktopWorkspace(InstallationFinder finder, const QProcessEnvironment &variables,
+                                   ActivationSource &activation)
     : finder_(std::move(finder)),
-      variables_(environmentForChildren(variables))
+      variables_(environmentForChildren(variables)),
+      activation_(activation)
 {
 }
 
@@ -64,7 +66,7 @@ QCoro::Task<std::expected<void, PlatformError>> DesktopWorkspace::openApplicatio
     if (!line)
         co_return std::unexpected(line.error());
     const bool hasFolder = QFileInfo(entry->workingDirectory).isDir();
-    co_return startDetached(*line, hasFolder ? entry->workingDirectory : home, variables_);
+    co_return startDetached(*line, hasFolder ? entry->workingDirectory : home, activation_.apply(variables_));
 }
 
 } // namespace vantrel

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Platform/ActivationSource.h"
 #include "Platform/Linux/InstallationFinder.h"
 #include "Platform/Workspace.h"
 
@@ -10,8 +11,9 @@ namespace vantrel {
 /// Applications by their desktop entries.
 class DesktopWorkspace final : public Workspace {
 public:
-    /// `variables` is what started programs get as their environment.
-    DesktopWorkspace(InstallationFinder finder, const QProcessEnvironment &variables);
+    /// `variables` is what started programs get as their environment, with what `activation` has to add, which must
+    /// outlive the workspace.
+    DesktopWorkspace(InstallationFinder finder, const QProcessEnvironment &variables, ActivationSource &activation);
 
     [[nodiscard]] std::optional<Application> applicationWithBundleIdentifier(const QString &bundleID) const override;
     [[nodiscard]] QStringList searchedNames(const QString &bundleID) const override;
@@ -23,6 +25,7 @@ public:
 private:
     InstallationFinder finder_;
     QProcessEnvironment variables_;
+    ActivationSource &activation_;
 };
 
 } // namespace vantrel

@@ -25,11 +25,12 @@ QString systemReason(const QString &errorString)
 
 QProcessEnvironment environmentForChildren(QProcessEnvironment variables)
 {
-    // systemd's for one service, and the launchers' notes on which entry started this process.
-    for (const auto name :
-         {"INVOCATION_ID"_L1, "JOURNAL_STREAM"_L1, "NOTIFY_SOCKET"_L1, "WATCHDOG_PID"_L1, "WATCHDOG_USEC"_L1,
-          "LISTEN_FDS"_L1, "LISTEN_PID"_L1, "LISTEN_FDNAMES"_L1, "MANAGERPID"_L1, "SYSTEMD_EXEC_PID"_L1,
-          "GIO_LAUNCHED_DESKTOP_FILE"_L1, "GIO_LAUNCHED_DESKTOP_FILE_PID"_L1, "BAMF_DESKTOP_FILE_HINT"_L1})
+    // systemd's for one service, the launchers' notes on which entry started this process, and what let this process
+    // come to the front once.
+    for (const auto name : {"INVOCATION_ID"_L1, "JOURNAL_STREAM"_L1, "NOTIFY_SOCKET"_L1, "WATCHDOG_PID"_L1,
+                            "WATCHDOG_USEC"_L1, "LISTEN_FDS"_L1, "LISTEN_PID"_L1, "LISTEN_FDNAMES"_L1, "MANAGERPID"_L1,
+                            "SYSTEMD_EXEC_PID"_L1, "GIO_LAUNCHED_DESKTOP_FILE"_L1, "GIO_LAUNCHED_DESKTOP_FILE_PID"_L1,
+                            "BAMF_DESKTOP_FILE_HINT"_L1, "XDG_ACTIVATION_TOKEN"_L1, "DESKTOP_STARTUP_ID"_L1})
         variables.remove(name);
     return variables;
 }

@@ -1,6 +1,6 @@
 #include "Vantrel/CommandLine/CommandArguments.h"
 
-#include "Vantrel/CommandLine/PrintableText.h"
+#include "VantrelKit/PrintableText.h"
 
 #include <QCommandLineParser>
 #include <QCoreApplication>

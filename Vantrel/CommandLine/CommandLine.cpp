@@ -5,8 +5,8 @@
 #include "Vantrel/CommandLine/LinkCommand.h"
 #include "Vantrel/CommandLine/ListCommand.h"
 #include "Vantrel/CommandLine/OpenCommand.h"
-#include "Vantrel/CommandLine/PrintableText.h"
 #include "Vantrel/CommandLine/ProfileMatcher.h"
+#include "VantrelKit/PrintableText.h"
 
 #include <QCoreApplication>
 

@@ -2,9 +2,9 @@
 
 #include "Vantrel/BrowserSurvey.h"
 #include "Vantrel/CommandLine/OrderedJson.h"
-#include "Vantrel/CommandLine/PrintableText.h"
 #include "Vantrel/CommandLine/Problems.h"
 #include "VantrelKit/KnownBrowsers.h"
+#include "VantrelKit/PrintableText.h"
 
 #include <QCoreApplication>
 

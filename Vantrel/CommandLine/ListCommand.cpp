@@ -2,10 +2,10 @@
 
 #include "Vantrel/CatalogueLoader.h"
 #include "Vantrel/CommandLine/OrderedJson.h"
-#include "Vantrel/CommandLine/PrintableText.h"
 #include "Vantrel/CommandLine/Problems.h"
 #include "VantrelKit/KnownBrowsers.h"
 #include "VantrelKit/LaunchLink.h"
+#include "VantrelKit/PrintableText.h"
 
 #include <QCoreApplication>
 

@@ -1,11 +1,11 @@
 #include "Vantrel/CommandLine/NamedProfile.h"
 
-#include "Vantrel/CommandLine/PrintableText.h"
 #include "Vantrel/CommandLine/Problems.h"
 #include "Vantrel/CommandLine/ProfileMatcher.h"
 #include "Vantrel/CommandLine/UserLinks.h"
 #include "VantrelKit/KnownBrowsers.h"
 #include "VantrelKit/LaunchLink.h"
+#include "VantrelKit/PrintableText.h"
 
 #include <QCoreApplication>
 

@@ -1,6 +1,6 @@
 #include "Vantrel/CommandLine/Output.h"
 
-#include "Vantrel/CommandLine/PrintableText.h"
+#include "VantrelKit/PrintableText.h"
 
 #include <QStringList>
 

@@ -1,7 +1,7 @@
 #include "Vantrel/CommandLine/Problems.h"
 
 #include "Vantrel/CommandLine/Output.h"
-#include "Vantrel/CommandLine/PrintableText.h"
+#include "VantrelKit/PrintableText.h"
 
 #include <QCoreApplication>
 

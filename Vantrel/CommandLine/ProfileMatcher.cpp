@@ -1,8 +1,9 @@
 #include "Vantrel/CommandLine/ProfileMatcher.h"
 
-#include "Vantrel/CommandLine/PrintableText.h"
+#include "Vantrel/UnknownProfile.h"
 #include "VantrelKit/KnownBrowsers.h"
 #include "VantrelKit/LaunchLink.h"
+#include "VantrelKit/PrintableText.h"
 #include "VantrelKit/ProfileList.h"
 
 #include <QCoreApplication>
@@ -80,11 +81,7 @@ std::expected<Profile, MatchFailure> matchLink(const QString &text, const Profil
     }
     if (auto profile = ProfileList::find(*link, catalogue.profiles, catalogue.customNames))
         return *std::move(profile);
-    //: Error when a link or launcher app names a profile that isn't there. The placeholder is the profile's name.
-    return std::unexpected(
-        MatchFailure{Texts::tr("Vantrel doesn't know the profile “%1”. Check that it still exists in "
-                               "the browser, then make its launcher app again.")
-                         .arg(quoted(link->profileName))});
+    return std::unexpected(MatchFailure{unknownProfileMessage(quoted(link->profileName))});
 }
 
 } // namespace

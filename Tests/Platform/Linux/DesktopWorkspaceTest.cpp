@@ -16,7 +16,7 @@ namespace {
 /// Desktop entries in a home of their own, which start a program that reports.
 class DesktopSystem {
 public:
-    DesktopSystem() : workspace_(InstallationFinder(home_.environment()), variables())
+    DesktopSystem() : workspace_(InstallationFinder(home_.environment()), variables(), activation_)
     {
         home_.write(u"share/applications/google-chrome.desktop"_s, test::desktopEntry(test::reportingProgram()));
         // Executable as far as anybody can tell without starting it.
@@ -45,6 +45,7 @@ private:
 
     test::PlantedHome home_;
     test::ReportChannel channel_;
+    ActivationSource activation_;
     DesktopWorkspace workspace_;
 };
 
@@ -68,7 +69,10 @@ protected:
                            test::desktopEntry(test::reportingProgram() + options, keys));
     }
 
-    [[nodiscard]] DesktopWorkspace workspace() { return {InstallationFinder(home_.environment()), home_.variables()}; }
+    [[nodiscard]] DesktopWorkspace workspace()
+    {
+        return {InstallationFinder(home_.environment()), home_.variables(), activation_};
+    }
 
     /// How the program of an entry is started.
     [[nodiscard]] test::StartReport report(const QString &entry, const QStringList &arguments = {})
@@ -88,6 +92,7 @@ protected:
 
     test::PlantedHome home_;
     test::ReportChannel channel_;
+    ActivationSource activation_;
 
 private:
     int argumentCount_ = 1;
@@ -129,6 +134,16 @@ TEST_F(DesktopWorkspaceTest, AnApplicationGetsTheVariablesWithoutThoseOfThisProc
     EXPECT_EQ(started.variable("HOME"), home_.path().toUtf8());
     EXPECT_EQ(started.variable("INVOCATION_ID"), std::nullopt);
     EXPECT_EQ(started.variable("GIO_LAUNCHED_DESKTOP_FILE"), std::nullopt);
+}
+
+TEST_F(DesktopWorkspaceTest, AnApplicationGetsWhatLetsItComeToTheFront)
+{
+    home_.variables().insert(u"XDG_ACTIVATION_TOKEN"_s, u"of an earlier start"_s);
+    const QString entry = writeEntry({});
+    EXPECT_EQ(report(entry).variable("XDG_ACTIVATION_TOKEN"), std::nullopt);
+    activation_.noteToken(u"token"_s);
+    EXPECT_EQ(report(entry).variable("XDG_ACTIVATION_TOKEN"), "token");
+    EXPECT_EQ(report(entry).variable("XDG_ACTIVATION_TOKEN"), std::nullopt);
 }
 
 TEST_F(DesktopWorkspaceTest, WhatIsStartedIsWhatTheCommandLineSays)

@@ -240,7 +240,9 @@ TEST_F(DetachedProcess, VariablesOfOneProcessAreNotPassedOn)
                           u"SYSTEMD_EXEC_PID"_s,
                           u"GIO_LAUNCHED_DESKTOP_FILE"_s,
                           u"GIO_LAUNCHED_DESKTOP_FILE_PID"_s,
-                          u"BAMF_DESKTOP_FILE_HINT"_s};
+                          u"BAMF_DESKTOP_FILE_HINT"_s,
+                          u"XDG_ACTIVATION_TOKEN"_s,
+                          u"DESKTOP_STARTUP_ID"_s};
     QProcessEnvironment kept;
     for (const QString &name : {u"HOME"_s, u"PATH"_s, u"DISPLAY"_s, u"WAYLAND_DISPLAY"_s, u"DBUS_SESSION_BUS_ADDRESS"_s,
                                 u"XDG_RUNTIME_DIR"_s, u"LANG"_s, u"MANAGERPID2"_s, u"EMPTY"_s})

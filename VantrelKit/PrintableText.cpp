@@ -1,4 +1,4 @@
-#include "Vantrel/CommandLine/PrintableText.h"
+#include "VantrelKit/PrintableText.h"
 
 #include <QList>
 

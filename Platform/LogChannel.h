@@ -1,0 +1,34 @@
+#pragma once
+
+#include "Platform/LogSink.h"
+
+#include <QList>
+#include <QString>
+
+#include <variant>
+
+namespace vantrel {
+
+/// What a placeholder of a log message stands for.
+using LogValue = std::variant<QString, qint64, bool>;
+
+/// One area's way to the log. Messages are formats with the placeholders of the macOS log: `%{public}s`, `%{private}s`,
+/// `%ld` and `%{bool}d`. Any thread.
+class LogChannel {
+public:
+    /// The sink must outlive the channel.
+    LogChannel(LogSink &sink, QString category) : sink_(sink), category_(std::move(category)) {}
+
+    void notice(QLatin1StringView format, const QList<LogValue> &values = {}) const;
+    void error(QLatin1StringView format, const QList<LogValue> &values = {}) const;
+
+private:
+    LogSink &sink_;
+    QString category_;
+};
+
+/// The message with its values in their places, in the order in which they are given. Private ones are left out unless
+/// they are to be shown; whatever would end the line is written as an escape.
+[[nodiscard]] QString logMessage(QLatin1StringView format, const QList<LogValue> &values, bool showsPrivateValues);
+
+} // namespace vantrel

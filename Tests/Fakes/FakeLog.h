@@ -1,0 +1,36 @@
+#pragma once
+
+#include "Platform/LogSink.h"
+
+#include <QMutex>
+#include <QStringList>
+
+namespace vantrel::test {
+
+/// A log that a test reads: "[Profiles] message", and "[Profiles] error: message".
+class FakeLog final : public LogSink {
+public:
+    [[nodiscard]] bool showsPrivateValues() const override { return showsPrivateValues_; }
+    void setShowsPrivateValues(bool shows) { showsPrivateValues_ = shows; }
+
+    void write(LogLevel level, const QString &category, const QString &message) override
+    {
+        const QMutexLocker lock(&mutex_);
+        const QString mark = level == LogLevel::error ? QStringLiteral("error: ") : QString();
+        lines_.append(u'[' + category + QStringLiteral("] ") + mark + message);
+    }
+
+    /// The lines since the last time.
+    [[nodiscard]] QStringList takeLines()
+    {
+        const QMutexLocker lock(&mutex_);
+        return std::exchange(lines_, {});
+    }
+
+private:
+    QMutex mutex_;
+    QStringList lines_;
+    bool showsPrivateValues_ = false;
+};
+
+} // namespace vantrel::test

@@ -1,0 +1,92 @@
+#include "Platform/Linux/StandardErrorLog.h"
+
+#include "Tests/VantrelKit/TemporaryFolder.h"
+
+#include <QFile>
+
+#include <fcntl.h>
+#include <gtest/gtest.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <functional>
+
+using namespace Qt::StringLiterals;
+
+namespace vantrel {
+namespace {
+
+/// Standard error in a file for as long as it lives.
+class CapturedErrors {
+public:
+    CapturedErrors() : former_(dup(STDERR_FILENO))
+    {
+        const QByteArray path = QFile::encodeName(folder_.write(u"errors"_s));
+        const int file = open(path.constData(), O_WRONLY | O_APPEND | O_CLOEXEC);
+        dup2(file, STDERR_FILENO);
+        close(file);
+    }
+    ~CapturedErrors()
+    {
+        dup2(former_, STDERR_FILENO);
+        close(former_);
+    }
+    Q_DISABLE_COPY_MOVE(CapturedErrors)
+
+    [[nodiscard]] QByteArray text() const { return folder_.read(u"errors"_s); }
+
+    /// As systemd would name it.
+    [[nodiscard]] static QString stream()
+    {
+        struct stat status = {};
+        fstat(STDERR_FILENO, &status);
+        return QString::number(status.st_dev) + u':' + QString::number(status.st_ino);
+    }
+
+private:
+    test::TemporaryFolder folder_;
+    int former_;
+};
+
+QProcessEnvironment with(const QString &name, const QString &value)
+{
+    QProcessEnvironment variables;
+    variables.insert(name, value);
+    return variables;
+}
+
+TEST(StandardErrorLog, ALineHasSubsystemCategoryAndMessage)
+{
+    const CapturedErrors errors;
+    StandardErrorLog log({});
+    log.write(LogLevel::notice, u"Open"_s, u"Größe"_s);
+    log.write(LogLevel::error, u"Profiles"_s, u"two"_s);
+    EXPECT_EQ(errors.text(), "app.kestrune.Vantrel [Open] Größe\napp.kestrune.Vantrel [Profiles] two\n");
+}
+
+TEST(StandardErrorLog, InTheJournalALineBeginsWithItsPriority)
+{
+    const CapturedErrors errors;
+    StandardErrorLog log(with(u"JOURNAL_STREAM"_s, CapturedErrors::stream()));
+    log.write(LogLevel::notice, u"Open"_s, u"one"_s);
+    log.write(LogLevel::error, u"Open"_s, u"two"_s);
+    EXPECT_EQ(errors.text(), "<5>app.kestrune.Vantrel [Open] one\n<3>app.kestrune.Vantrel [Open] two\n");
+}
+
+TEST(StandardErrorLog, AnotherProcessesJournalIsNotOurs)
+{
+    const CapturedErrors errors;
+    for (const QString &stream : QStringList{u"1:2"_s, u""_s, u"junk"_s, CapturedErrors::stream() + u'0'})
+        StandardErrorLog(with(u"JOURNAL_STREAM"_s, stream)).write(LogLevel::error, u"Open"_s, u"x"_s);
+    EXPECT_EQ(errors.text(), QByteArray("app.kestrune.Vantrel [Open] x\n").repeated(4));
+}
+
+TEST(StandardErrorLog, PrivateValuesAreShownOnRequestOnly)
+{
+    EXPECT_FALSE(StandardErrorLog({}).showsPrivateValues());
+    EXPECT_TRUE(StandardErrorLog(with(u"VANTREL_LOG_PRIVATE"_s, u"1"_s)).showsPrivateValues());
+    EXPECT_FALSE(StandardErrorLog(with(u"VANTREL_LOG_PRIVATE"_s, u"0"_s)).showsPrivateValues());
+}
+
+} // namespace
+} // namespace vantrel

@@ -1,0 +1,136 @@
+#include "Vantrel/DiscoveryRuns.h"
+
+#include "Vantrel/InstalledBrowsers.h"
+#include "VantrelKit/KnownBrowsers.h"
+#include "VantrelKit/Paths.h"
+
+#include <QCoreApplication>
+#include <QtConcurrentRun>
+
+#include <algorithm>
+
+namespace vantrel {
+namespace {
+
+struct Texts {
+    Q_DECLARE_TR_FUNCTIONS(DiscoveryRuns)
+};
+
+bool isRead(const QString &bundleID)
+{
+    const auto family = KnownBrowsers::family(bundleID);
+    return family && family != BrowserFamily::safari;
+}
+
+} // namespace
+
+DiscoveryRuns::DiscoveryRuns(ProfileStore &store, Environment environment, ProfileReader reader)
+    : store_(store),
+      environment_(environment),
+      reader_(std::move(reader))
+{
+}
+
+DiscoveryRuns::~DiscoveryRuns()
+{
+    pool_.waitForDone();
+}
+
+void DiscoveryRuns::start()
+{
+    if (!store_.begin())
+        return;
+    store_.load();
+    store_.setBrowsers(installedBrowsers(environment_.workspace, KnownBrowsers::all()));
+    discoverAll();
+    QStringList followed;
+    for (const Browser &browser : store_.browsers()) {
+        if (isRead(browser.bundleID))
+            followed.append(browser.bundleID);
+    }
+    environment_.runningApplications.watch(followed, [this](const QString &bundleID) { browserQuit(bundleID); });
+}
+
+void DiscoveryRuns::discoverAll()
+{
+    discover(store_.browsers());
+}
+
+void DiscoveryRuns::discoverBrowser(const QString &bundleID)
+{
+    const QList<Browser> &browsers = store_.browsers();
+    const auto browser = std::ranges::find(browsers, bundleID, &Browser::bundleID);
+    if (browser != browsers.end())
+        discover({*browser});
+}
+
+void DiscoveryRuns::discover(const QList<Browser> &browsers)
+{
+    QList<Browser> free;
+    for (const Browser &browser : browsers) {
+        if (!isRead(browser.bundleID))
+            continue;
+        if (reading_.contains(browser.bundleID))
+            readAgain_.insert(browser.bundleID);
+        else
+            free.append(browser);
+        reading_.insert(browser.bundleID);
+    }
+    if (free.isEmpty())
+        return;
+    const auto read = [reader = reader_, &data = environment_.browserData, free] {
+        return discoverBrowsers(reader, data, free);
+    };
+    QtConcurrent::run(&pool_, read).then(this, [this](const DiscoveryResults &results) { finish(results); });
+}
+
+void DiscoveryRuns::finish(const DiscoveryResults &results)
+{
+    QStringList again;
+    for (auto result = results.keyBegin(); result != results.keyEnd(); ++result) {
+        reading_.remove(*result);
+        if (readAgain_.remove(*result))
+            again.append(*result);
+    }
+    store_.apply(results);
+    for (const QString &bundleID : std::as_const(again))
+        discoverBrowser(bundleID);
+}
+
+void DiscoveryRuns::browserQuit(const QString &bundleID)
+{
+    if (isRead(bundleID) && !environment_.runningApplications.isRunning(bundleID))
+        discoverBrowser(bundleID);
+}
+
+bool DiscoveryRuns::canRequestAccess(const QString &bundleID) const
+{
+    return environment_.folderAccess && store_.accessDenied().contains(bundleID) &&
+           KnownBrowsers::dataFolder(bundleID).has_value();
+}
+
+void DiscoveryRuns::requestAccess(const QString &bundleID)
+{
+    const auto folder = reader_.dataFolder(bundleID);
+    const QList<Browser> &browsers = store_.browsers();
+    const auto browser = std::ranges::find(browsers, bundleID, &Browser::bundleID);
+    if (!canRequestAccess(bundleID) || !folder || browser == browsers.end())
+        return;
+    //: Open panel message. First placeholder: a browser's name; second: its data folder's name. 'Grant Access' must
+    //: match the panel's button.
+    const QString message =
+        Texts::tr("macOS asks for your permission before Vantrel reads %1's profiles. Select the “%2” "
+                  "folder and click Grant Access.")
+            .arg(browser->name, lastPathComponent(*folder));
+    //: Open panel button that lets Vantrel read a browser's profiles.
+    const QString button = Texts::tr("Grant Access");
+    ask({*folder, message, button}, bundleID);
+}
+
+QCoro::Task<> DiscoveryRuns::ask(FolderAccess::Panel panel, QString bundleID)
+{
+    if (co_await environment_.folderAccess->ask(std::move(panel)))
+        discoverBrowser(bundleID);
+}
+
+} // namespace vantrel
