@@ -23,16 +23,16 @@ struct MenuItem {
 
     Kind kind = Kind::command;
     /// As the user reads it: every `&` and `_` stands for itself.
-    QString title;
+    QString title = {};
     /// The same for the same row whenever the menu is built again; empty for rows that are no commands.
-    QString id;
+    QString id = {};
     /// Shown beside the title; empty for none.
-    QKeySequence shortcut;
+    QKeySequence shortcut = {};
     /// Draws the icon, a square with a side of that many device pixels; empty for rows without one. The image's own
     /// key stays the same as long as the picture does.
-    std::function<QImage(int pixels)> icon;
+    std::function<QImage(int pixels)> icon = {};
     /// What choosing the row does; empty for rows that are no commands.
-    std::function<void()> action;
+    std::function<void()> action = {};
 };
 
 using Menu = QList<MenuItem>;

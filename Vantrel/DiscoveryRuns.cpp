@@ -95,6 +95,8 @@ void DiscoveryRuns::finish(const DiscoveryResults &results)
     store_.apply(results);
     for (const QString &bundleID : std::as_const(again))
         discoverBrowser(bundleID);
+    if (isIdle())
+        Q_EMIT idle();
 }
 
 void DiscoveryRuns::browserQuit(const QString &bundleID)

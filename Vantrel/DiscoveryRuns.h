@@ -14,6 +14,8 @@ namespace vantrel {
 /// are read on other threads, and what was found is applied on the main thread, where all else happens. A browser that
 /// is asked for while it is being read is read once more afterwards.
 class DiscoveryRuns final : public QObject {
+    Q_OBJECT
+
 public:
     /// What it works with; all must outlive it.
     struct Environment {
@@ -47,6 +49,10 @@ public:
 
     /// Whether nothing is being read.
     [[nodiscard]] bool isIdle() const { return reading_.isEmpty(); }
+
+Q_SIGNALS:
+    /// A run's results are in the store, and nothing is being read any more.
+    void idle();
 
 private:
     void discover(const QList<Browser> &browsers);

@@ -31,11 +31,13 @@ int main(int argc, char *argv[])
 
     const Platform platform = Platform::create();
     const ProfileReader reader;
+    const std::unique_ptr<AppProcess> app = AppProcess::create();
     Output output(stdout, stderr);
     CommandContext context{
         .workspace = *platform.workspace,
         .browserData = *platform.browserData,
         .reader = reader,
+        .app = *app,
         .savedStatePath = SavedState::defaultPath(),
         .workingDirectory = QDir::currentPath(),
         .output = output,

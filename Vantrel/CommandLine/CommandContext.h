@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Platform/AppProcess.h"
 #include "Platform/BrowserData.h"
 #include "Platform/Workspace.h"
 #include "Vantrel/CommandLine/Output.h"
@@ -17,6 +18,7 @@ struct CommandContext {
     Workspace &workspace;
     const BrowserData &browserData;
     const ProfileReader &reader;
+    AppProcess &app;
     /// The file with the user's order, names and hidden profiles. Commands only read it.
     QString savedStatePath;
     /// Where relative file names that the user gives are looked for.

@@ -1,5 +1,6 @@
 #include "Vantrel/CommandLine/CommandLine.h"
 
+#include "Vantrel/CommandLine/AppCommands.h"
 #include "Vantrel/CommandLine/CommandArguments.h"
 #include "Vantrel/CommandLine/DoctorCommand.h"
 #include "Vantrel/CommandLine/LinkCommand.h"
@@ -34,16 +35,32 @@ constexpr std::array commands{
     Command{&DoctorCommand::syntax, &DoctorCommand::run},
 };
 
+QString row(const QString &command, const QString &description)
+{
+    return u"\n  "_s + command.leftJustified(10) + description;
+}
+
 QString overview()
 {
     //: Help of the command line.
-    QString text = Texts::tr("Usage: %1").arg(u"vantrel COMMAND …"_s) + u"\n\n"_s +
+    QString text = Texts::tr("Usage: %1").arg(u"vantrel [COMMAND …]"_s) + u"\n\n"_s +
                    //: Help of the command line.
                    Texts::tr("Opens a chosen profile of a chosen web browser in one step.") + u"\n"_s;
     for (const Command &command : commands) {
         const CommandSyntax syntax = command.syntax();
-        text += u"\n  "_s + syntax.command.leftJustified(8) + QString(syntax.description).replace(u'\n', u' ');
+        text += row(syntax.command, QString(syntax.description).replace(u'\n', u' '));
     }
+    //: Help of the command line.
+    text += row(u"settings"_s, Texts::tr("Opens the app's settings window."));
+    //: Help of the command line.
+    text += row(u"menu"_s, Texts::tr("Opens the app's menu at the pointer."));
+    //: Help of the command line.
+    text += row(u"quit"_s, Texts::tr("Ends the app."));
+    text += u'\n';
+    //: Help of the command line. The placeholder is a command.
+    text += u'\n' + Texts::tr("“%1” alone starts the app, or shows its settings when it is running.").arg(u"vantrel"_s);
+    //: Help of the command line. The placeholder is a command.
+    text += u'\n' + Texts::tr("“%1” hands links to the app.").arg(u"vantrel LINK…"_s);
     //: Help of the command line.
     return text + u"\n\n"_s + Texts::tr("“vantrel COMMAND --help” tells more. “vantrel --version” prints the version.");
 }
@@ -55,12 +72,11 @@ ExitStatus wrongUsage(const QString &reason, Output &output)
     return ExitStatus::wrongUsage;
 }
 
-ExitStatus withoutCommand(const QStringList &arguments, Output &output)
+ExitStatus withoutCommand(const QStringList &arguments, CommandContext &context)
 {
-    if (arguments.isEmpty()) {
-        //: Error of the command line.
-        return wrongUsage(Texts::tr("The menu is not part of this version yet: name a command."), output);
-    }
+    Output &output = context.output;
+    if (arguments.isEmpty())
+        return AppCommands::run(context);
     const QString &first = arguments.first();
     if (first == "--help"_L1 || first == "-h"_L1 || first == "help"_L1) {
         output.line(overview());
@@ -70,11 +86,10 @@ ExitStatus withoutCommand(const QStringList &arguments, Output &output)
         output.line(u"vantrel "_s + QCoreApplication::applicationVersion());
         return ExitStatus::done;
     }
-    if (isProfileLink(first)) {
-        //: Error of the command line.
-        return wrongUsage(Texts::tr("Links can't be handed to the app in this version yet: use “vantrel open LINK”."),
-                          output);
-    }
+    if (std::ranges::all_of(arguments, isProfileLink))
+        return AppCommands::openLinks(arguments, context);
+    if (AppCommands::isAction(first) && arguments.size() == 1)
+        return AppCommands::act(first, context);
     //: Error of the command line. The placeholder is what the user wrote.
     return wrongUsage(Texts::tr("There is no command “%1”.").arg(printable(first)), output);
 }
@@ -87,7 +102,7 @@ QCoro::Task<ExitStatus> runCommandLine(QStringList arguments, CommandContext &co
         return !arguments.isEmpty() && candidate.syntax().command == arguments.first();
     });
     if (command == commands.end())
-        co_return withoutCommand(arguments, context.output);
+        co_return withoutCommand(arguments, context);
     auto parsed = CommandArguments::parse(command->syntax(), arguments.sliced(1), context.output);
     if (!parsed)
         co_return parsed.error();

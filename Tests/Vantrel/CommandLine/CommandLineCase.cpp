@@ -19,6 +19,7 @@ CommandLineCase::Running::Running(const QStringList &arguments, CommandLineCase 
       context_{.workspace = *owner.workspace,
                .browserData = *owner.browserData,
                .reader = owner.reader,
+               .app = owner.app,
                .savedStatePath = owner.planted.folder.path(u"profiles.json"_s),
                .workingDirectory = owner.planted.folder.path(),
                .output = output_}

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Tests/Fakes/FakeAppProcess.h"
 #include "Tests/Vantrel/CommandLine/TemporaryStream.h"
 #include "Tests/Vantrel/PlantedBrowsers.h"
 #include "Vantrel/CommandLine/CommandContext.h"
@@ -78,6 +79,7 @@ protected:
     Workspace *workspace = &planted.workspace;
     const BrowserData *browserData = &planted.data;
     ProfileReader reader;
+    FakeAppProcess app;
 };
 
 } // namespace vantrel::test

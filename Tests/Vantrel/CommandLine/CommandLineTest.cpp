@@ -26,13 +26,14 @@ TEST_F(CommandLineTest, TheOverviewNamesEveryCommand)
     EXPECT_EQ(overview.status, ExitStatus::done);
     EXPECT_EQ(overview.messages, QString());
     const QStringList lines = overview.results.split(u'\n');
-    EXPECT_EQ(lines.first(), u"Usage: vantrel COMMAND …"_s);
+    EXPECT_EQ(lines.first(), u"Usage: vantrel [COMMAND …]"_s);
     QStringList commands;
     for (const QString &line : lines) {
         if (line.startsWith("  "_L1))
             commands.append(line.simplified().section(u' ', 0, 0));
     }
-    EXPECT_EQ(commands, (QStringList{u"list"_s, u"open"_s, u"link"_s, u"doctor"_s}));
+    EXPECT_EQ(commands,
+              (QStringList{u"list"_s, u"open"_s, u"link"_s, u"doctor"_s, u"settings"_s, u"menu"_s, u"quit"_s}));
     EXPECT_EQ(run({u"-h"_s}), overview);
     EXPECT_EQ(run({u"help"_s}), overview);
 }
@@ -69,14 +70,15 @@ TEST_F(CommandLineTest, TheVersionIsTheProgramsOne)
 
 TEST_F(CommandLineTest, WhatIsNoCommandIsWrongUsage)
 {
-    EXPECT_EQ(run({}), wrong(u"The menu is not part of this version yet: name a command."_s));
     EXPECT_EQ(run({u"cook"_s, u"soup"_s}), wrong(u"There is no command “cook”."_s));
     EXPECT_EQ(run({u"List"_s}), wrong(u"There is no command “List”."_s));
     EXPECT_EQ(run({QString()}), wrong(u"There is no command “”."_s));
     EXPECT_EQ(run({u"--json"_s, u"list"_s}), wrong(u"There is no command “--json”."_s));
     EXPECT_EQ(run({u"a\nb\x1b"_s}), wrong(u"There is no command “a\\nb\\x1b”."_s));
-    EXPECT_EQ(run({u"vantrel://?profileName=Work"_s}),
-              wrong(u"Links can't be handed to the app in this version yet: use “vantrel open LINK”."_s));
+    EXPECT_EQ(run({u"vantrel://?profileName=Work"_s, u"https://example.com/"_s}),
+              wrong(u"There is no command “vantrel://?profileName=Work”."_s));
+    EXPECT_EQ(run({u"menu"_s, u"more"_s}), wrong(u"There is no command “menu”."_s));
+    EXPECT_TRUE(app.takeCalls().isEmpty());
 }
 
 TEST_F(CommandLineTest, AWrongUsageOfACommandIsToldByTheCommand)

@@ -1,0 +1,33 @@
+#pragma once
+
+#include "Platform/ActivationPolicy.h"
+#include "Platform/ApplicationInstance.h"
+#include "Platform/FolderAccess.h"
+#include "Platform/LogSink.h"
+#include "Platform/Platform.h"
+#include "Platform/RunningApplications.h"
+#include "Platform/StatusItem.h"
+#include "Platform/Updater.h"
+
+#include <memory>
+
+namespace vantrel {
+
+/// The ports that only the app needs, beyond those of the command line.
+struct DesktopPlatform {
+    std::unique_ptr<LogSink> log;
+    std::unique_ptr<ApplicationInstance> instance;
+    std::unique_ptr<RunningApplications> runningApplications;
+    std::unique_ptr<ActivationPolicy> activationPolicy;
+    /// Null where no panel draws menus.
+    std::unique_ptr<StatusItem> statusItem;
+    /// Null where the system grants access to folders in no such way.
+    std::unique_ptr<FolderAccess> folderAccess;
+    /// Null where the system itself keeps programs up to date.
+    std::unique_ptr<Updater> updater;
+
+    /// Refers to `platform`, which must outlive it. Needs a QGuiApplication.
+    [[nodiscard]] static DesktopPlatform create(Platform &platform);
+};
+
+} // namespace vantrel

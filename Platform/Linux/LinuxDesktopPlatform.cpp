@@ -1,0 +1,45 @@
+#include "Platform/DesktopPlatform.h"
+#include "Platform/Linux/Environment.h"
+#include "Platform/Linux/Instance/InstanceSocketPath.h"
+#include "Platform/Linux/Instance/LinuxApplicationInstance.h"
+#include "Platform/Linux/LinuxActivationPolicy.h"
+#include "Platform/Linux/Processes/BrowserProcesses.h"
+#include "Platform/Linux/StandardErrorLog.h"
+#include "Platform/Linux/StatusItem/StatusNotifierItem.h"
+
+#include <QFileInfo>
+
+using namespace Qt::StringLiterals;
+
+namespace vantrel {
+namespace {
+
+/// Without an address the library would start a bus of its own, which nobody else talks to and which stays when Vantrel
+/// ends.
+QDBusConnection sessionBus(const QProcessEnvironment &variables)
+{
+    const QString runtimeFolder = variables.value(u"XDG_RUNTIME_DIR"_s);
+    const bool hasBus = !variables.value(u"DBUS_SESSION_BUS_ADDRESS"_s).isEmpty() ||
+                        (!runtimeFolder.isEmpty() && QFileInfo::exists(runtimeFolder + "/bus"_L1));
+    return hasBus ? QDBusConnection::sessionBus() : QDBusConnection(QString());
+}
+
+} // namespace
+
+DesktopPlatform DesktopPlatform::create(Platform &platform)
+{
+    const QProcessEnvironment variables = QProcessEnvironment::systemEnvironment();
+    const QDBusConnection bus = sessionBus(variables);
+    return {
+        .log = std::make_unique<StandardErrorLog>(variables),
+        .instance = std::make_unique<LinuxApplicationInstance>(bus, instanceSocketPath(variables)),
+        .runningApplications =
+            std::make_unique<BrowserProcesses>(*platform.browserData, bus, SingletonContext::current()),
+        .activationPolicy = std::make_unique<LinuxActivationPolicy>(),
+        .statusItem = std::make_unique<StatusNotifierItem>(bus, *platform.activation, Environment::from(variables)),
+        .folderAccess = nullptr,
+        .updater = nullptr,
+    };
+}
+
+} // namespace vantrel

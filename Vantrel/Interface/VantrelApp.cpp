@@ -1,0 +1,180 @@
+#include "Vantrel/Interface/VantrelApp.h"
+
+#include "Vantrel/Interface/SystemTrayIcon.h"
+#include "Vantrel/Pictures/TrayImage.h"
+#include "Vantrel/ProfileMenu.h"
+#include "Vantrel/SavedState.h"
+#include "VantrelKit/AvatarThumbnail.h"
+
+#include <QCursor>
+#include <QGuiApplication>
+#include <QInputEvent>
+#include <QMessageBox>
+#include <QSettings>
+#include <QStandardPaths>
+
+using namespace Qt::StringLiterals;
+
+namespace vantrel {
+namespace {
+
+struct Texts {
+    Q_DECLARE_TR_FUNCTIONS(VantrelApp)
+};
+
+ProfileReader profileReader()
+{
+    ProfileReader reader;
+    reader.appSupportRoot =
+        QStandardPaths::writableLocation(QStandardPaths::HomeLocation) + "/Library/Application Support"_L1;
+    reader.readPicture = avatarThumbnailPNG;
+    return reader;
+}
+
+QString defaultsPath()
+{
+    return QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) +
+           "/app.kestrune.Vantrel/defaults.ini"_L1;
+}
+
+} // namespace
+
+VantrelApp::VantrelApp(Platform &platform, DesktopPlatform &desktop)
+    : platform_(platform),
+      desktop_(desktop),
+      store_(SavedState::defaultPath(), *desktop.log),
+      discovery_(store_,
+                 {*platform.workspace, *platform.browserData, *desktop.runningApplications, desktop.folderAccess.get()},
+                 profileReader()),
+      opener_(store_, {*platform.workspace, alert_, *desktop.log}),
+      links_(store_, discovery_, opener_),
+      settingsWindows_(*desktop.activationPolicy),
+      popup_([this] { return menu(); }),
+      tray_({desktop.statusItem.get(), [this] { return std::make_unique<SystemTrayIcon>(popup_); }, *desktop.log,
+             [this] { tellHomeless(); }})
+{
+    connect(&store_, &ProfileStore::changed, this, &VantrelApp::takeStoreChange);
+}
+
+std::expected<ApplicationInstance::Role, PlatformError> VantrelApp::start(const InstanceRequest &first)
+{
+    const auto role = desktop_.instance->start(first, [this](const InstanceRequest &request) { take(request); });
+    if (!role || *role == ApplicationInstance::Role::second)
+        return role;
+    desktop_.activationPolicy->becomeAccessory();
+    tray_.start(statusItemContent());
+    discovery_.start();
+    // A plain start shows the symbol and nothing else.
+    if (first.kind != InstanceRequest::Kind::activate)
+        take(first);
+    return role;
+}
+
+void VantrelApp::take(const InstanceRequest &request)
+{
+    platform_.activation->noteToken(request.activationToken);
+    platform_.activation->noteStartupID(request.startupID);
+    switch (request.kind) {
+    case InstanceRequest::Kind::activate: showSettings(settingsModel_.tab()); return;
+    case InstanceRequest::Kind::open: {
+        QList<QUrl> links;
+        for (const QString &link : request.links)
+            links.append(QUrl(link));
+        links_.open(links);
+        return;
+    }
+    case InstanceRequest::Kind::action: act(request.action); return;
+    }
+}
+
+void VantrelApp::act(const QString &action)
+{
+    if (action == "menu"_L1)
+        popup_.popup(QCursor::pos());
+    else if (action == "settings"_L1)
+        showSettings(SettingsModel::Tab::profiles);
+    else if (action == "quit"_L1)
+        QCoreApplication::quit();
+}
+
+void VantrelApp::showSettings(SettingsModel::Tab tab)
+{
+    settingsModel_.setTab(tab);
+    if (!settingsWindow_)
+        settingsWindow_ = std::make_unique<SettingsWindow>(settingsWindows_);
+    settingsWindow_->show();
+    settingsWindow_->raise();
+    settingsWindow_->activateWindow();
+    desktop_.activationPolicy->activate();
+}
+
+void VantrelApp::tellHomeless()
+{
+    QSettings defaults(defaultsPath(), QSettings::IniFormat);
+    const QString key = u"toldThatThereIsNoTray"_s;
+    if (defaults.value(key).toBool())
+        return;
+    defaults.setValue(key, true);
+    //: Title of the notice on desktops without a tray.
+    auto *box = new QMessageBox(QMessageBox::Information, u"Vantrel"_s, Texts::tr("This desktop has no tray"));
+    //: Notice on desktops without a tray. The placeholder is a command.
+    box->setInformativeText(
+        Texts::tr("Vantrel is running, but there is no place for its symbol. Start Vantrel again to "
+                  "open its settings, or give the command “%1” a keyboard shortcut of your desktop "
+                  "to open its menu.")
+            .arg(u"vantrel menu"_s));
+    box->setAttribute(Qt::WA_DeleteOnClose);
+    box->show();
+}
+
+Menu VantrelApp::menu()
+{
+    const ProfileMenuActions actions{
+        .open = [this](const Profile &profile) { opener_.open(profile, {}, ProfileOpener::Source::menu); },
+        .findProfiles = [this] { showSettings(SettingsModel::Tab::profiles); },
+        .showSettings = [this] { showSettings(SettingsModel::Tab::profiles); },
+        .quit = [] { QCoreApplication::quit(); },
+        .icon =
+            [this](const Profile &profile, int pixels) {
+                return icons_.image(ProfileIcon::of(profile, store_.displayName(profile)), pixels);
+            },
+    };
+    return profileMenu(store_, actions);
+}
+
+StatusItem::Content VantrelApp::statusItemContent()
+{
+    return {
+        .title = u"Vantrel"_s,
+        .iconName = u"app.kestrune.Vantrel-symbolic"_s,
+        .icon = [](int pixels) { return trayImage(pixels, TrayColor::unknown); },
+        .menu = [this] { return menu(); },
+    };
+}
+
+void VantrelApp::takeStoreChange()
+{
+    QSet<QString> ids;
+    for (const Profile &profile : store_.profiles())
+        ids.insert(profile.id());
+    icons_.keepOnly(ids);
+    popup_.updateRows();
+    if (desktop_.statusItem)
+        desktop_.statusItem->updateMenu();
+}
+
+bool VantrelApp::eventFilter(QObject *object, QEvent *event)
+{
+    switch (event->type()) {
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonRelease:
+    case QEvent::KeyPress:
+        // Under X11 the time is the server's, which is what startup notifications are about.
+        platform_.activation->noteTime(static_cast<std::uint32_t>(static_cast<QInputEvent *>(event)->timestamp()));
+        break;
+    default: break;
+    }
+    return QObject::eventFilter(object, event);
+}
+
+} // namespace vantrel

@@ -1,0 +1,56 @@
+#pragma once
+
+#include "Platform/DesktopPlatform.h"
+#include "Vantrel/DiscoveryRuns.h"
+#include "Vantrel/Interface/AlertBox.h"
+#include "Vantrel/Interface/PopupMenu.h"
+#include "Vantrel/Interface/SettingsWindow.h"
+#include "Vantrel/LinkQueue.h"
+#include "Vantrel/Pictures/ProfileIconCache.h"
+#include "Vantrel/ProfileOpener.h"
+#include "Vantrel/ProfileStore.h"
+#include "Vantrel/SettingsModel.h"
+#include "Vantrel/TrayPresence.h"
+
+#include <memory>
+
+namespace vantrel {
+
+/// The running app: all its parts, each given what it needs. Main thread only.
+class VantrelApp final : public QObject {
+public:
+    /// Both must outlive it.
+    VantrelApp(Platform &platform, DesktopPlatform &desktop);
+    ~VantrelApp() override = default;
+    Q_DISABLE_COPY_MOVE(VantrelApp)
+
+    /// Becomes the one instance and does what is asked, or hands it to the one there is.
+    [[nodiscard]] std::expected<ApplicationInstance::Role, PlatformError> start(const InstanceRequest &first);
+
+    bool eventFilter(QObject *object, QEvent *event) override;
+
+private:
+    void take(const InstanceRequest &request);
+    void act(const QString &action);
+    void showSettings(SettingsModel::Tab tab);
+    void tellHomeless();
+    [[nodiscard]] Menu menu();
+    [[nodiscard]] StatusItem::Content statusItemContent();
+    void takeStoreChange();
+
+    Platform &platform_;
+    DesktopPlatform &desktop_;
+    ProfileStore store_;
+    DiscoveryRuns discovery_;
+    AlertBox alert_;
+    ProfileOpener opener_;
+    LinkQueue links_;
+    ProfileIconCache icons_;
+    SettingsModel settingsModel_;
+    SettingsWindows settingsWindows_;
+    std::unique_ptr<SettingsWindow> settingsWindow_;
+    PopupMenu popup_;
+    TrayPresence tray_;
+};
+
+} // namespace vantrel
