@@ -46,7 +46,7 @@ BrowserProcesses::BrowserProcesses(const BrowserData &data, const QDBusConnectio
       instances_([this](const QStringList &folders) { takeEnd(folders); }),
       folders_([this](const QString &folder, QByteArrayView name) { takeCreation(folder, name); }),
       busNames_(bus, {.appeared = [this](const QString &name) { takeBusName(name); },
-                      .lost = [] {}})
+                      .lost = [this] { followFirefoxFolders(); }})
 {
 }
 

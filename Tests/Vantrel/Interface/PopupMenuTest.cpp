@@ -1,0 +1,180 @@
+#include "Vantrel/Interface/PopupMenu.h"
+
+#include "Tests/VantrelKit/Samples.h"
+
+#include <QAction>
+#include <QSignalSpy>
+#include <QTest>
+
+#include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
+
+namespace vantrel {
+namespace {
+
+class PopupMenuTest : public testing::Test {
+protected:
+    [[nodiscard]] MenuItem command(const QString &title, const QString &id)
+    {
+        return {.title = title, .id = id, .action = [this, id] { chosen_.append(id); }};
+    }
+
+    /// Opens the menu, and waits until it is there.
+    void open()
+    {
+        menu_.popup({10, 10});
+        ASSERT_TRUE(QTest::qWaitForWindowExposed(&menu_));
+    }
+
+    [[nodiscard]] QStringList titles() const
+    {
+        QStringList titles;
+        for (const QAction *action : menu_.actions())
+            titles.append(action->text());
+        return titles;
+    }
+
+    [[nodiscard]] QAction *row(const QString &id) const
+    {
+        for (QAction *action : menu_.actions()) {
+            if (action->objectName() == id)
+                return action;
+        }
+        return nullptr;
+    }
+
+    Menu rows_;
+    QStringList chosen_;
+    PopupMenu menu_{[this] { return rows_; }};
+};
+
+TEST_F(PopupMenuTest, IsBuiltAnewEachTimeItOpens)
+{
+    rows_ = {command(u"One"_s, u"1"_s)};
+    EXPECT_TRUE(titles().isEmpty());
+    open();
+    EXPECT_EQ(titles(), QStringList(u"One"_s));
+    menu_.close();
+    rows_ = {command(u"Two"_s, u"2"_s)};
+    open();
+    EXPECT_EQ(titles(), QStringList(u"Two"_s));
+}
+
+TEST_F(PopupMenuTest, HeadersAndTextsCanNotBeChosen)
+{
+    rows_ = {{.kind = MenuItem::Kind::header, .title = u"Chrome"_s},
+             {.kind = MenuItem::Kind::text, .title = u"Nothing"_s},
+             {.kind = MenuItem::Kind::separator},
+             command(u"One"_s, u"1"_s)};
+    open();
+    const QList<QAction *> actions = menu_.actions();
+    ASSERT_EQ(actions.size(), 4);
+    EXPECT_TRUE(actions[0]->isSeparator());
+    EXPECT_EQ(actions[0]->text(), u"Chrome"_s);
+    EXPECT_FALSE(actions[1]->isEnabled());
+    EXPECT_TRUE(actions[2]->isSeparator());
+    EXPECT_TRUE(actions[2]->text().isEmpty());
+    QTest::keyClick(&menu_, Qt::Key_Down);
+    EXPECT_EQ(menu_.activeAction(), row(u"1"_s));
+}
+
+TEST_F(PopupMenuTest, ARowIsChosenByKeyboardAndByMouse)
+{
+    rows_ = {command(u"One"_s, u"1"_s), command(u"Two"_s, u"2"_s)};
+    open();
+    QTest::keyClick(&menu_, Qt::Key_Down);
+    QTest::keyClick(&menu_, Qt::Key_Down);
+    QTest::keyClick(&menu_, Qt::Key_Return);
+    EXPECT_EQ(chosen_, QStringList(u"2"_s));
+    open();
+    QTest::mouseClick(&menu_, Qt::LeftButton, {}, menu_.actionGeometry(row(u"1"_s)).center());
+    EXPECT_EQ(chosen_, QStringList({u"2"_s, u"1"_s}));
+}
+
+TEST_F(PopupMenuTest, TitlesHaveNoMnemonicsAndStayOneLine)
+{
+    rows_ = {command(u"a_b & c&d"_s, u"1"_s), command(u"x\ty\nz"_s, u"2"_s)};
+    open();
+    EXPECT_EQ(titles(), QStringList({u"a_b && c&&d"_s, u"x y z"_s}));
+}
+
+TEST_F(PopupMenuTest, WhileItIsOpenItFollowsItsRows)
+{
+    rows_ = {command(u"One"_s, u"1"_s), command(u"Two"_s, u"2"_s)};
+    menu_.updateRows();
+    EXPECT_TRUE(titles().isEmpty());
+    open();
+    menu_.setActiveAction(row(u"2"_s));
+    rows_ = {command(u"Zero"_s, u"0"_s), command(u"Deux"_s, u"2"_s), command(u"Three"_s, u"3"_s)};
+    menu_.updateRows();
+    EXPECT_EQ(titles(), QStringList({u"Zero"_s, u"Deux"_s, u"Three"_s}));
+    EXPECT_EQ(menu_.activeAction(), row(u"2"_s));
+    rows_ = {command(u"Zero"_s, u"0"_s)};
+    menu_.updateRows();
+    EXPECT_EQ(menu_.activeAction(), nullptr);
+    EXPECT_TRUE(menu_.isVisible());
+}
+
+TEST_F(PopupMenuTest, AShortcutIsOnlyShown)
+{
+    MenuItem item = command(u"One"_s, u"1"_s);
+    item.shortcut = QKeySequence(Qt::CTRL | Qt::ALT | Qt::Key_P);
+    rows_ = {item};
+    open();
+    EXPECT_EQ(row(u"1"_s)->shortcut(), item.shortcut);
+    EXPECT_TRUE(row(u"1"_s)->isShortcutVisibleInContextMenu());
+    menu_.close();
+    QTest::keyClick(&menu_, Qt::Key_P, Qt::ControlModifier | Qt::AltModifier);
+    EXPECT_TRUE(chosen_.isEmpty());
+}
+
+TEST_F(PopupMenuTest, IconsAreDrawnWhenTheyAreShownAndSharpAtEachScale)
+{
+    QList<int> sizes;
+    MenuItem item = command(u"One"_s, u"1"_s);
+    item.icon = [&sizes](int pixels) {
+        sizes.append(pixels);
+        QImage image(pixels, pixels, QImage::Format_ARGB32_Premultiplied);
+        image.fill(Qt::red);
+        return image;
+    };
+    rows_ = {item};
+    open();
+    const QIcon icon = row(u"1"_s)->icon();
+    sizes.clear();
+    EXPECT_EQ(icon.pixmap(QSize(16, 16), 1.0).size(), QSize(16, 16));
+    EXPECT_EQ(icon.pixmap(QSize(16, 16), 1.5).size(), QSize(24, 24));
+    EXPECT_EQ(icon.pixmap(QSize(16, 16), 2.0).size(), QSize(32, 32));
+    EXPECT_EQ(sizes, QList<int>({16, 24, 32}));
+    EXPECT_EQ(icon.pixmap(QSize(16, 16), 2.0).toImage().pixelColor(16, 16), QColor(Qt::red));
+}
+
+TEST_F(PopupMenuTest, IconsOutOfSightAreNotDrawn)
+{
+    int drawn = 0;
+    for (int number = 0; number < 1000; ++number) {
+        MenuItem item = command(QString::number(number), QString::number(number));
+        item.icon = [&drawn](int pixels) {
+            ++drawn;
+            return QImage(pixels, pixels, QImage::Format_ARGB32_Premultiplied);
+        };
+        rows_.append(item);
+    }
+    open();
+    std::ignore = menu_.grab(QRect(0, 0, 100, 100));
+    EXPECT_GT(drawn, 0);
+    EXPECT_LT(drawn, 500);
+}
+
+TEST_F(PopupMenuTest, AnyTitleIsShown)
+{
+    for (const QString &title : test::oddTexts())
+        rows_.append(command(title, title));
+    open();
+    EXPECT_EQ(menu_.actions().size(), test::oddTexts().size());
+    EXPECT_FALSE(menu_.grab().isNull());
+}
+
+} // namespace
+} // namespace vantrel
