@@ -60,7 +60,8 @@ def run(home: Home, unnamed: int) -> None:
     piped_reading = Contender("cat through a pipe", cat.run_through_pipe)
     contenders = [vantrel, python, shell, reading, piped_reading]
     measure(contenders)
-    print(table(f"List {len(output(program))} profiles, {unnamed} of {PROFILE_COUNT} named in Preferences", contenders, python))
+    title = f"List {len(output(program))} profiles, {unnamed} of {PROFILE_COUNT} named in Preferences"
+    print(table(title, contenders, python))
     print(verdict("a fifth of list_reference.py's time", vantrel.median / python.median, PYTHON_GOAL))
     print(verdict("less than twice the time of cat to /dev/null", vantrel.median / reading.median, CAT_GOAL))
 

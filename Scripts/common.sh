@@ -8,9 +8,9 @@ fail() { printf '%s: %s\n' "$(basename "$0")" "$*" >&2; exit 1; }
 # What building takes, and what the tests take beyond that.
 build_packages=(g++ cmake ninja-build ccache pkg-config qt6-base-dev
   qt6-svg-dev qcoro-qt6-dev libsimdjson-dev libglib2.0-dev sqlite3)
-test_packages=(libgtest-dev libgmock-dev libbenchmark-dev qt6-image-formats-plugins clang-19 clang-format-19 clang-tidy-19
-  shellcheck git python3 python3-flake8 desktop-file-utils bubblewrap util-linux jq chromium firefox-esr xvfb openbox xdotool
-  x11-utils imagemagick dbus)
+test_packages=(libgtest-dev libgmock-dev libbenchmark-dev qt6-image-formats-plugins clang-19 clang-format-19
+  clang-tidy-19 libclang-19-dev llvm-19-dev shellcheck git python3 python3-flake8 desktop-file-utils bubblewrap
+  util-linux jq chromium firefox-esr xvfb openbox xdotool x11-utils imagemagick dbus)
 demo_packages=(python3)
 brew_formulas=(cmake ninja ccache pkgconf qt simdjson googletest google-benchmark glib)
 

@@ -133,7 +133,7 @@ void ProfileStore::setHidden(bool isHidden, const Profile &profile)
 void ProfileStore::rename(const Profile &profile, const QString &name)
 {
     const QString given = name.trimmed();
-    if (given.isEmpty() || given == catalogue_.defaultName(profile))
+    if (given.isEmpty() || given == ProfileCatalogue::defaultName(profile))
         catalogue_.customNames.remove(profile.id());
     else
         catalogue_.customNames.insert(profile.id(), given);

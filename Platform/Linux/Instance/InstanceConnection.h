@@ -2,7 +2,7 @@
 
 #include "Platform/ApplicationInstance.h"
 #include "Platform/Linux/Instance/InstanceMessage.h"
-#include "Platform/Linux/Instance/OwnedDescriptor.h"
+#include "Platform/Linux/OwnedDescriptor.h"
 
 #include <QObject>
 #include <QSocketNotifier>

@@ -42,13 +42,13 @@ std::optional<sockaddr_un> socketAddress(const QString &path)
 std::optional<ProcessHandle> listener(const QString &path)
 {
     const auto address = socketAddress(path);
-    const FileDescriptor connection(socket(AF_UNIX, SOCK_STREAM | SOCK_NONBLOCK | SOCK_CLOEXEC, 0));
-    if (!address || connect(connection.get(), reinterpret_cast<const sockaddr *>(&*address), sizeof *address) != 0)
+    const OwnedDescriptor connection(socket(AF_UNIX, SOCK_STREAM | SOCK_NONBLOCK | SOCK_CLOEXEC, 0));
+    if (!address || connect(connection.number(), reinterpret_cast<const sockaddr *>(&*address), sizeof *address) != 0)
         return std::nullopt;
     ucred peer{};
     socklen_t size = sizeof peer;
     // Anybody may make a socket where temporary files are, once the browser's is gone.
-    if (getsockopt(connection.get(), SOL_SOCKET, SO_PEERCRED, &peer, &size) != 0 || peer.uid != geteuid())
+    if (getsockopt(connection.number(), SOL_SOCKET, SO_PEERCRED, &peer, &size) != 0 || peer.uid != geteuid())
         return std::nullopt;
     return ProcessHandle::open(peer.pid);
 }

@@ -43,12 +43,12 @@ QStringList firefoxProfileFolders(const QString &dataFolder)
 std::optional<ProcessHandle> profileLockHolder(const QString &profileFolder)
 {
     const QByteArray path = QFile::encodeName(joinedPath(profileFolder, u".parentlock"_s));
-    const FileDescriptor file(open(path.constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC | O_NOFOLLOW));
+    const OwnedDescriptor file(open(path.constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC | O_NOFOLLOW));
     struct flock lock{};
     lock.l_type = F_WRLCK;
     lock.l_whence = SEEK_SET;
     // Asks only; no lock is taken.
-    if (!file.isOpen() || fcntl(file.get(), F_GETLK, &lock) != 0 || lock.l_type == F_UNLCK)
+    if (!file.isOpen() || fcntl(file.number(), F_GETLK, &lock) != 0 || lock.l_type == F_UNLCK)
         return std::nullopt;
     return ProcessHandle::open(lock.l_pid);
 }

@@ -50,12 +50,12 @@ void FolderWatch::open()
 {
     if (inotify_.isOpen())
         return;
-    inotify_ = FileDescriptor(inotify_init1(IN_NONBLOCK | IN_CLOEXEC));
+    inotify_ = OwnedDescriptor(inotify_init1(IN_NONBLOCK | IN_CLOEXEC));
     if (!inotify_.isOpen()) {
         qWarning("Folders can't be watched: %s.", qUtf8Printable(qt_error_string(errno)));
         return;
     }
-    notifier_ = std::make_unique<QSocketNotifier>(inotify_.get(), QSocketNotifier::Read);
+    notifier_ = std::make_unique<QSocketNotifier>(inotify_.number(), QSocketNotifier::Read);
     QObject::connect(notifier_.get(), &QSocketNotifier::activated, notifier_.get(), [this] { read(); });
 }
 
@@ -75,7 +75,7 @@ void FolderWatch::place(const QString &folder)
 FolderWatch::Place FolderWatch::nearestWatch(const QString &folder) const
 {
     for (QString path = folder; !path.isEmpty(); path = parentOf(path)) {
-        const int watch = inotify_add_watch(inotify_.get(), QFile::encodeName(path).constData(), watchedEvents);
+        const int watch = inotify_add_watch(inotify_.number(), QFile::encodeName(path).constData(), watchedEvents);
         if (watch >= 0)
             return {watch, path};
         if (errno != ENOENT && errno != ENOTDIR) {
@@ -91,14 +91,14 @@ void FolderWatch::release(int watch)
     const auto isUsed = [watch](const Place &place) { return place.watch == watch; };
     // The system may have dropped it already, with what was watched.
     if (watch >= 0 && std::ranges::none_of(places_, isUsed))
-        inotify_rm_watch(inotify_.get(), watch);
+        inotify_rm_watch(inotify_.number(), watch);
 }
 
 void FolderWatch::read()
 {
     alignas(inotify_event) std::array<char, 16384> block{};
     ssize_t count = 0;
-    while ((count = ::read(inotify_.get(), block.data(), block.size())) > 0) {
+    while ((count = ::read(inotify_.number(), block.data(), block.size())) > 0) {
         for (size_t offset = 0; offset < static_cast<size_t>(count);) {
             inotify_event event{};
             std::memcpy(&event, block.data() + offset, sizeof event);

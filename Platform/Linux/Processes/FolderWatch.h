@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Platform/Linux/Processes/FileDescriptor.h"
+#include "Platform/Linux/OwnedDescriptor.h"
 
 #include <QByteArrayView>
 #include <QHash>
@@ -45,7 +45,7 @@ private:
     void placeAgain(const QString &folder);
 
     Created created_;
-    FileDescriptor inotify_;
+    OwnedDescriptor inotify_;
     std::unique_ptr<QSocketNotifier> notifier_;
     QHash<QString, Place> places_;
 };

@@ -17,7 +17,7 @@ std::optional<ProcessHandle> ProcessHandle::open(pid_t process)
     if (process <= 0)
         return std::nullopt;
     // The C library's own function can't be linked from C++ before version 2.37.
-    FileDescriptor descriptor(static_cast<int>(syscall(SYS_pidfd_open, process, 0)));
+    OwnedDescriptor descriptor(static_cast<int>(syscall(SYS_pidfd_open, process, 0)));
     if (!descriptor.isOpen())
         return std::nullopt;
     return ProcessHandle(process, std::move(descriptor));
@@ -25,7 +25,7 @@ std::optional<ProcessHandle> ProcessHandle::open(pid_t process)
 
 bool ProcessHandle::isAlive() const
 {
-    pollfd request{.fd = descriptor_.get(), .events = POLLIN, .revents = 0};
+    pollfd request{.fd = descriptor_.number(), .events = POLLIN, .revents = 0};
     return poll(&request, 1, 0) == 0;
 }
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Platform/Linux/Processes/FileDescriptor.h"
+#include "Platform/Linux/OwnedDescriptor.h"
 
 #include <QString>
 
@@ -19,17 +19,17 @@ public:
 
     [[nodiscard]] pid_t process() const { return process_; }
     /// Becomes readable when the process ends, for whatever reason.
-    [[nodiscard]] int descriptor() const { return descriptor_.get(); }
+    [[nodiscard]] int descriptor() const { return descriptor_.number(); }
     [[nodiscard]] bool isAlive() const;
 
     /// Whether it has a file below the folder open. False for processes of other users.
     [[nodiscard]] bool hasOpenFileBelow(const QString &folder) const;
 
 private:
-    ProcessHandle(pid_t process, FileDescriptor descriptor) : process_(process), descriptor_(std::move(descriptor)) {}
+    ProcessHandle(pid_t process, OwnedDescriptor descriptor) : process_(process), descriptor_(std::move(descriptor)) {}
 
     pid_t process_;
-    FileDescriptor descriptor_;
+    OwnedDescriptor descriptor_;
 };
 
 } // namespace vantrel

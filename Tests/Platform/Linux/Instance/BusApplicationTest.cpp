@@ -4,7 +4,7 @@
 #include "Platform/Linux/Instance/InstanceClient.h"
 #include "Tests/Contract/ApplicationInstanceContract.h"
 #include "Tests/Platform/Linux/Instance/InstanceSession.h"
-#include "Tests/Platform/Linux/Instance/PrivateBus.h"
+#include "Tests/Platform/Linux/PrivateBus.h"
 
 #include <QDBusConnectionInterface>
 #include <QDBusPendingCall>
@@ -26,7 +26,7 @@ protected:
     {
         QFile installed(QStringLiteral(DESKTOP_FILES) + u"/app.kestrune.Vantrel.service"_s);
         EXPECT_TRUE(installed.open(QIODevice::ReadOnly));
-        const QByteArray program = QByteArrayLiteral(PROGRAM_FOLDER) + "/vantrel";
+        const QByteArray program = APP_PROGRAM;
         QByteArray service = installed.readAll();
         EXPECT_TRUE(service.contains(QByteArray("Exec=" + program + '\n')));
         session_.folder().write(u"runtime/dbus-1/services/app.kestrune.Vantrel.service"_s,

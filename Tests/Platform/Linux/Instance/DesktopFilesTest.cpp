@@ -44,11 +44,11 @@ TEST(DesktopFiles, TheEntryIsValidWithoutAnyRemark)
     EXPECT_EQ(validator.exitCode(), 0);
 }
 
-TEST(DesktopFiles, TheServiceHasTheNameThatTheAppTakesOnTheBusAndStartsTheInstalledProgram)
+TEST(DesktopFiles, TheServiceHasTheNameThatTheAppTakesOnTheBusAndStartsTheInstalledApp)
 {
     const auto service = group(u"D-BUS Service"_s, u".service"_s);
     EXPECT_EQ(service.value(u"Name"_s), ActivationMessage::busName());
-    EXPECT_EQ(service.value(u"Exec"_s), QStringLiteral(PROGRAM_FOLDER) + u"/vantrel"_s);
+    EXPECT_EQ(service.value(u"Exec"_s), QStringLiteral(APP_PROGRAM));
     EXPECT_EQ(ActivationMessage::objectPath(), u'/' + ActivationMessage::busName().replace(u'.', u'/'));
 }
 

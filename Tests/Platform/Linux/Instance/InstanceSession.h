@@ -1,7 +1,7 @@
 #pragma once
 
 #include "Platform/InstanceRequest.h"
-#include "Platform/Linux/Instance/OwnedDescriptor.h"
+#include "Platform/Linux/OwnedDescriptor.h"
 #include "Tests/VantrelKit/TemporaryFolder.h"
 
 #include <QJsonArray>

@@ -5,7 +5,7 @@
 #include "Tests/Platform/Linux/Instance/AnotherUser.h"
 #include "Tests/Platform/Linux/Instance/Beside.h"
 #include "Tests/Platform/Linux/Instance/InstanceSession.h"
-#include "Tests/Platform/Linux/Instance/PrivateBus.h"
+#include "Tests/Platform/Linux/PrivateBus.h"
 
 #include <QDir>
 #include <QJsonDocument>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Platform/Linux/Instance/OwnedDescriptor.h"
+#include "Platform/Linux/OwnedDescriptor.h"
 
 #include <QByteArray>
 #include <QString>

@@ -177,6 +177,22 @@ TEST_F(ChromiumProcessesTest, ABrowserWhoseSocketIsOutOfReachIsKnownByItsOpenFil
     EXPECT_EQ(told(), QStringList(chrome));
 }
 
+TEST_F(ChromiumProcessesTest, ALockThatComesBeforeItsSocketIsLookedAtAgain)
+{
+    folder_.makeFolder(u"chrome"_s);
+    watch({chrome, brave});
+    const auto browser = start(u"elsewhere"_s, u"sockets"_s);
+    plantLock(test::hostName + u'-' + QString::number(browser->process()));
+    QCoreApplication::processEvents();
+    EXPECT_FALSE(browser->isWatched());
+    folder_.link(u"chrome/SingletonSocket"_s, folder_.path(u"sockets/SingletonSocket"_s));
+    folder_.write(u"chrome/another file"_s);
+    QCoreApplication::processEvents();
+    EXPECT_TRUE(browser->isWatched());
+    browser->kill();
+    EXPECT_EQ(told(), QStringList(chrome));
+}
+
 TEST_F(ChromiumProcessesTest, AFlatpakIsFoundThroughItsOwnTemporaryFolder)
 {
     const QString id = u"com.google.Chrome"_s;

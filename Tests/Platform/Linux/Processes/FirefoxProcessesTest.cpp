@@ -1,4 +1,5 @@
 #include "Platform/Linux/Processes/FirefoxBusName.h"
+#include "Tests/Platform/Linux/PrivateBus.h"
 #include "Tests/Platform/Linux/Processes/ProcessesFixture.h"
 
 #include <QDBusMessage>

@@ -72,36 +72,4 @@ void StandIn::kill()
     EXPECT_TRUE(process_.waitForFinished(millisecondsAllowed));
 }
 
-PrivateBus::PrivateBus()
-{
-    daemon_.setProcessChannelMode(QProcess::ForwardedErrorChannel);
-    daemon_.start(u"dbus-daemon"_s, {u"--session"_s, u"--nofork"_s, u"--print-address=1"_s, u"--nopidfile"_s});
-    address_ = QString::fromUtf8(firstLine(daemon_).trimmed());
-    EXPECT_FALSE(address_.isEmpty()) << "dbus-daemon can't be started (package dbus-daemon): "
-                                     << daemon_.errorString().toStdString();
-}
-
-PrivateBus::~PrivateBus()
-{
-    stop();
-}
-
-void PrivateBus::stop()
-{
-    if (daemon_.state() == QProcess::NotRunning)
-        return;
-    daemon_.kill();
-    EXPECT_TRUE(daemon_.waitForFinished(millisecondsAllowed));
-}
-
-void PrivateBus::pause() const
-{
-    EXPECT_EQ(::kill(static_cast<pid_t>(daemon_.processId()), SIGSTOP), 0);
-}
-
-void PrivateBus::resume() const
-{
-    EXPECT_EQ(::kill(static_cast<pid_t>(daemon_.processId()), SIGCONT), 0);
-}
-
 } // namespace vantrel::test

@@ -31,22 +31,4 @@ private:
     int ownHandles_ = 0;
 };
 
-/// A message bus of a test's own.
-class PrivateBus {
-public:
-    PrivateBus();
-    ~PrivateBus();
-    Q_DISABLE_COPY_MOVE(PrivateBus)
-
-    [[nodiscard]] const QString &address() const { return address_; }
-    void stop();
-    /// Lets it neither take nor send anything until it is resumed.
-    void pause() const;
-    void resume() const;
-
-private:
-    QProcess daemon_;
-    QString address_;
-};
-
 } // namespace vantrel::test

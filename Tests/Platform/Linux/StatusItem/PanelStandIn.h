@@ -1,7 +1,8 @@
 #pragma once
 
 #include "Platform/Linux/StatusItem/DBusMenuTypes.h"
-#include "Tests/Platform/Linux/StatusItem/PrivateBus.h"
+#include "Tests/Platform/Linux/PrivateBus.h"
+#include "Tests/Platform/Linux/StatusItem/OwnConnection.h"
 
 #include <QDBusAbstractInterface>
 #include <QDBusMessage>

@@ -1,6 +1,7 @@
 #pragma once
 
-#include "Tests/Platform/Linux/StatusItem/PrivateBus.h"
+#include "Tests/Platform/Linux/PrivateBus.h"
+#include "Tests/Platform/Linux/StatusItem/OwnConnection.h"
 
 #include <QDBusContext>
 #include <QDBusMessage>

@@ -1,4 +1,4 @@
-#include "Tests/Platform/Linux/Instance/PrivateBus.h"
+#include "Tests/Platform/Linux/PrivateBus.h"
 
 #include <gtest/gtest.h>
 #include <sys/prctl.h>
@@ -25,8 +25,25 @@ PrivateBus::PrivateBus(const QProcessEnvironment &variables)
 
 PrivateBus::~PrivateBus()
 {
+    stop();
+}
+
+void PrivateBus::stop()
+{
+    if (daemon_.state() == QProcess::NotRunning)
+        return;
     daemon_.kill();
     daemon_.waitForFinished();
+}
+
+void PrivateBus::pause() const
+{
+    EXPECT_EQ(kill(static_cast<pid_t>(daemon_.processId()), SIGSTOP), 0);
+}
+
+void PrivateBus::resume() const
+{
+    EXPECT_EQ(kill(static_cast<pid_t>(daemon_.processId()), SIGCONT), 0);
 }
 
 } // namespace vantrel::test

@@ -1,25 +1,10 @@
 #pragma once
 
 #include <QDBusConnection>
-#include <QProcess>
 
 #include <functional>
 
 namespace vantrel::test {
-
-/// A session bus of its own, ended with the test.
-class PrivateBus {
-public:
-    PrivateBus();
-    ~PrivateBus();
-    Q_DISABLE_COPY_MOVE(PrivateBus)
-
-    [[nodiscard]] const QString &address() const { return address_; }
-
-private:
-    QProcess daemon_;
-    QString address_;
-};
 
 /// A connection that nobody else uses, closed with this. Open unless there is no bus at the address.
 class OwnConnection {

@@ -1,4 +1,4 @@
-#include "Tests/Platform/Linux/StatusItem/PrivateBus.h"
+#include "Tests/Platform/Linux/StatusItem/OwnConnection.h"
 
 #include <QDBusMessage>
 #include <QTest>
@@ -19,20 +19,6 @@ QString nextName()
 }
 
 } // namespace
-
-PrivateBus::PrivateBus()
-{
-    daemon_.start(u"dbus-daemon"_s, {u"--session"_s, u"--nofork"_s, u"--print-address=1"_s, u"--nopidfile"_s});
-    const bool isUp = daemon_.waitForStarted(millisecondsAllowed) && daemon_.waitForReadyRead(millisecondsAllowed);
-    EXPECT_TRUE(isUp) << "No session bus: install dbus-daemon. " << qPrintable(daemon_.errorString());
-    address_ = QString::fromUtf8(daemon_.readLine()).trimmed();
-}
-
-PrivateBus::~PrivateBus()
-{
-    daemon_.kill();
-    daemon_.waitForFinished(millisecondsAllowed);
-}
 
 OwnConnection::OwnConnection(const QString &address)
     : name_(nextName()),

@@ -13,7 +13,12 @@ public:
     ~PrivateBus();
     Q_DISABLE_COPY_MOVE(PrivateBus)
 
-    [[nodiscard]] QString address() const { return address_; }
+    [[nodiscard]] const QString &address() const { return address_; }
+
+    void stop();
+    /// While it is paused it answers nobody.
+    void pause() const;
+    void resume() const;
 
 private:
     QProcess daemon_;
