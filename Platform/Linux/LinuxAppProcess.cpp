@@ -50,9 +50,9 @@ QString appProgram()
 
 } // namespace
 
-LinuxAppProcess::LinuxAppProcess(QString program, QProcessEnvironment variables)
+LinuxAppProcess::LinuxAppProcess(QString program, const QProcessEnvironment &variables)
     : program_(std::move(program)),
-      variables_(std::move(variables))
+      variables_(variables)
 {
 }
 

@@ -10,7 +10,7 @@ namespace vantrel {
 class LinuxAppProcess final : public AppProcess {
 public:
     /// `program` is the app's path.
-    LinuxAppProcess(QString program, QProcessEnvironment variables);
+    LinuxAppProcess(QString program, const QProcessEnvironment &variables);
 
     [[nodiscard]] std::expected<bool, PlatformError> send(InstanceRequest request) override;
     [[nodiscard]] std::expected<void, PlatformError> start(const InstanceRequest &request) override;
