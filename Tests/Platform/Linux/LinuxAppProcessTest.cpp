@@ -97,7 +97,7 @@ TEST_F(LinuxAppProcessTest, AProcessBecomesTheApp)
     int status = 0;
     ASSERT_EQ(waitpid(child, &status, 0), child);
     EXPECT_EQ(status, 0);
-    EXPECT_EQ(started(), "\n:8\n");
+    EXPECT_EQ(started(), ":8\n");
 }
 
 TEST_F(LinuxAppProcessTest, AnAppThatIsNotThereIsTold)
