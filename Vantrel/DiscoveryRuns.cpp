@@ -107,7 +107,7 @@ void DiscoveryRuns::browserQuit(const QString &bundleID)
 
 bool DiscoveryRuns::canRequestAccess(const QString &bundleID) const
 {
-    return environment_.folderAccess && store_.accessDenied().contains(bundleID) &&
+    return environment_.folderAccess != nullptr && store_.accessDenied().contains(bundleID) &&
            KnownBrowsers::dataFolder(bundleID).has_value();
 }
 

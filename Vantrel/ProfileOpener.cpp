@@ -57,7 +57,8 @@ QCoro::Task<> ProfileOpener::open(Profile profile, QList<QUrl> links, Source sou
 ProfileOpener::Step ProfileOpener::start(Browser browser, ProfileTarget target, QList<QUrl> links)
 {
     const auto *safariProfile = std::get_if<ProfileTarget::SafariProfile>(&target.value);
-    const bool isSafari = safariProfile || std::holds_alternative<ProfileTarget::SafariPrivate>(target.value);
+    const bool isSafari =
+        safariProfile != nullptr || std::holds_alternative<ProfileTarget::SafariPrivate>(target.value);
     if (!isSafari)
         return runCommands(std::move(browser), std::move(target), std::move(links));
     if (!environment_.safari)

@@ -9,10 +9,12 @@ import tempfile
 from collections.abc import Iterable, Sequence
 from dataclasses import dataclass
 from pathlib import Path
+from xml.sax.saxutils import escape
 
-from .processes import adopt_orphans, descendants, end_descendants
-from .waiting import PATIENCE_SECONDS, wait_for
+from Tests.Desktop.processes import adopt_orphans, descendants, end_descendants
+from Tests.Desktop.waiting import PATIENCE_SECONDS, wait_for
 
+SCREEN_SIZE = (1280, 800)
 _PACKAGES = {
     "Xvfb": "xvfb",
     "openbox": "openbox",
@@ -25,12 +27,14 @@ _PACKAGES = {
 }
 _PATH = "/usr/local/bin:/usr/bin:/bin"
 
-# The message bus knows no service to start: what a browser finds there does not depend on what else is installed.
+# The message bus only starts services out of given folders: what a browser finds there does not depend on what else is
+# installed.
 _BUS_CONFIGURATION = """<!DOCTYPE busconfig PUBLIC "-//freedesktop//DTD D-Bus Bus Configuration 1.0//EN"
   "http://www.freedesktop.org/standards/dbus/1.0/busconfig.dtd">
 <busconfig>
   <type>session</type>
   <listen>unix:path={socket}</listen>
+{folders}
   <policy context="default">
     <allow send_destination="*" eavesdrop="true"/>
     <allow eavesdrop="true"/>
@@ -58,16 +62,19 @@ class DesktopSession:
         self.config = self.home / ".config"
         self.data = self.home / ".local" / "share"
         self.environment = self._environment()
+        self.service_folders: list[Path] = []  # of the message bus, to be set before the session begins
         self._log = self.root / "desktop.log"
         self._parts: list[subprocess.Popen[bytes]] = []
 
     def __enter__(self) -> "DesktopSession":
         adopt_orphans()
         try:
-            display = self._start_and_read(["Xvfb", "-screen", "0", "1280x800x24", "-noreset"], "-displayfd")
+            size = "{}x{}x24".format(*SCREEN_SIZE)
+            display = self._start_and_read(["Xvfb", "-screen", "0", size, "-noreset"], "-displayfd")
             self.environment["DISPLAY"] = f":{display}"
             self.environment["DBUS_SESSION_BUS_ADDRESS"] = self._start_bus()
-            self._start(["openbox", "--sm-disable"])
+            # Its own files are not among the planted ones: a window manager ends when it finds no theme.
+            self.start_part(["openbox", "--sm-disable"], XDG_DATA_DIRS="/usr/share")
             wait_for(self._has_window_manager, "the window manager")
         except BaseException:
             self.__exit__()
@@ -95,6 +102,18 @@ class DesktopSession:
             ["setsid", "--fork", *command], env=self.environment, cwd=self.home, check=True,
             stdin=subprocess.DEVNULL, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL,
         )
+
+    def start_part(
+        self, command: Sequence[str | Path], keep: int | None = None, **environment: str
+    ) -> subprocess.Popen[bytes]:
+        """Starts a part of the desktop, which dies with this process even if that is killed."""
+        with open(self._log, "ab") as log:
+            part = subprocess.Popen(
+                ["setpriv", "--pdeathsig", "KILL", *command], env=self.environment | environment, cwd=self.home,
+                pass_fds=[] if keep is None else [keep], stdin=subprocess.DEVNULL, stdout=log, stderr=log,
+            )
+        self._parts.append(part)
+        return part
 
     def windows(self) -> list[Window]:
         """The windows that the window manager manages."""
@@ -140,7 +159,8 @@ class DesktopSession:
 
     def _start_bus(self) -> str:
         configuration = self.root / "bus.conf"
-        configuration.write_text(_BUS_CONFIGURATION.format(socket=self.root / "run" / "bus"), "utf-8")
+        folders = "\n".join(f"  <servicedir>{escape(str(each))}</servicedir>" for each in self.service_folders)
+        configuration.write_text(_BUS_CONFIGURATION.format(socket=self.root / "run" / "bus", folders=folders), "utf-8")
         return self._start_and_read(["dbus-daemon", f"--config-file={configuration}", "--nofork"], "--print-address")
 
     def _start_and_read(self, command: list[str], option: str) -> str:
@@ -148,7 +168,7 @@ class DesktopSession:
         ours, theirs = os.pipe()
         with open(ours, encoding="ascii") as answer:
             try:
-                self._start([*command, option, str(theirs)], keep=theirs)
+                self.start_part([*command, option, str(theirs)], keep=theirs)
             finally:
                 os.close(theirs)
             ready, _, _ = select.select([answer], [], [], PATIENCE_SECONDS)
@@ -156,17 +176,6 @@ class DesktopSession:
         if not line:
             raise AssertionError(f"{command[0]} did not start: {self._log.read_text('utf-8', 'replace')}")
         return line
-
-    def _start(self, command: list[str], keep: int | None = None) -> None:
-        """Starts a part of the desktop, which dies with this process even if that is killed."""
-        # Its own files are not among the planted ones: a window manager ends when it finds no theme.
-        environment = self.environment | {"XDG_DATA_DIRS": "/usr/share"}
-        with open(self._log, "ab") as log:
-            part = subprocess.Popen(
-                ["setpriv", "--pdeathsig", "KILL", *command], env=environment, cwd=self.home,
-                pass_fds=[] if keep is None else [keep], stdin=subprocess.DEVNULL, stdout=log, stderr=log,
-            )
-        self._parts.append(part)
 
     def _has_window_manager(self) -> bool:
         """The property is set at the end of its start-up, after the theme is loaded."""

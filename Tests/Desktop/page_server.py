@@ -8,7 +8,7 @@ from http.server import BaseHTTPRequestHandler, ThreadingHTTPServer
 from typing import Any
 from urllib.parse import quote, unquote
 
-from .waiting import wait_for
+from Tests.Desktop.waiting import wait_for
 
 _MARKING = "/mark/"
 _COOKIE = "profile"

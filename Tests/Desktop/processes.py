@@ -8,7 +8,7 @@ from contextlib import contextmanager, suppress
 from dataclasses import dataclass
 from pathlib import Path
 
-from .waiting import wait_for
+from Tests.Desktop.waiting import wait_for
 
 _PR_SET_CHILD_SUBREAPER = 36
 

@@ -8,12 +8,11 @@ from contextlib import closing, suppress
 from dataclasses import dataclass, replace
 from pathlib import Path
 
-from Support.browser_catalogue import Row, row
-
-from .desktop_session import DesktopSession
-from .page_server import PageServer
-from .processes import Process, descendants, kill
-from .waiting import wait_for
+from Tests.Desktop.desktop_session import DesktopSession
+from Tests.Desktop.page_server import PageServer
+from Tests.Desktop.processes import Process, descendants, kill
+from Tests.Desktop.waiting import wait_for
+from Tests.Support.browser_catalogue import Row, row
 
 
 @dataclass(frozen=True)
@@ -43,11 +42,14 @@ class RealBrowser(ABC):
 
     def prepare(self) -> None:
         """Plants the desktop entry and has the browser make its profiles; it is closed afterwards."""
+        self.plant_entry()
+        self._make_profiles()
+        self.quit()
+
+    def plant_entry(self) -> None:
         entry = self.session.data / "applications" / self.entry_name
         entry.parent.mkdir(exist_ok=True)
         entry.write_text(self._entry(), "utf-8")
-        self._make_profiles()
-        self.quit()
 
     @property
     def row(self) -> Row:

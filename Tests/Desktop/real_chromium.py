@@ -5,8 +5,8 @@ import os
 import re
 from pathlib import Path
 
-from .desktop_session import require_programs
-from .real_browser import BrowserProfile, RealBrowser, installed_entry
+from Tests.Desktop.desktop_session import require_programs
+from Tests.Desktop.real_browser import BrowserProfile, RealBrowser, installed_entry
 
 _PROGRAM = "/usr/bin/chromium"
 
@@ -46,6 +46,10 @@ class RealChromium(RealBrowser):
     def profile_folders(self) -> set[Path]:
         return {each.parent for each in self.data_folder.glob("*/Preferences")}
 
+    def make_profile(self, folder: str, mark: str) -> None:
+        """The browser makes the profile that it is to open; it goes on."""
+        self._mark(mark, [_PROGRAM, *_SWITCHES, f"--profile-directory={folder}"])
+
     def _entry(self) -> str:
         require_programs({_PROGRAM: "chromium"})
         command_line = " ".join((_PROGRAM, *_SWITCHES, "%U"))
@@ -53,7 +57,7 @@ class RealChromium(RealBrowser):
 
     def _make_profiles(self) -> None:
         for folder, name in _NAMES.items():
-            self._mark(name, [_PROGRAM, *_SWITCHES, f"--profile-directory={folder}"])
+            self.make_profile(folder, name)
         self.quit()
         self.profiles = tuple(
             BrowserProfile(f"chromium:{folder}", _NAMES[folder], self.data_folder / folder) for folder in _LISTED_ORDER

@@ -5,8 +5,8 @@ import os
 from configparser import RawConfigParser
 from pathlib import Path
 
-from .desktop_session import require_programs
-from .real_browser import BrowserProfile, RealBrowser, installed_entry
+from Tests.Desktop.desktop_session import require_programs
+from Tests.Desktop.real_browser import BrowserProfile, RealBrowser, installed_entry
 
 _PROGRAM = "/usr/lib/firefox-esr/firefox-esr"
 

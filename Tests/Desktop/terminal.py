@@ -6,7 +6,7 @@ import subprocess
 from collections.abc import Sequence
 from typing import BinaryIO
 
-from .waiting import PATIENCE_SECONDS
+from Tests.Desktop.waiting import PATIENCE_SECONDS
 
 # After the command the shell goes on as a program that waits for input.
 _SCRIPT = '"$@"; echo "ended with $?"; exec cat'

@@ -14,17 +14,15 @@ from contextlib import ExitStack
 from pathlib import Path
 from typing import Any
 
-sys.path.insert(0, str(Path(__file__).resolve().parents[1]))
-
-from Desktop.desktop_session import DesktopSession
-from Desktop.page_server import PageServer
-from Desktop.processes import Process, paused
-from Desktop.real_browser import BrowserProfile, RealBrowser
-from Desktop.real_chromium import RealChromium
-from Desktop.real_firefox import RealFirefox
-from Desktop.terminal import run_in_terminal_and_close_it
-from Desktop.waiting import wait_for
-from Support import listed
+from Tests.Desktop.desktop_session import DesktopSession
+from Tests.Desktop.page_server import PageServer
+from Tests.Desktop.processes import Process, paused
+from Tests.Desktop.real_browser import BrowserProfile, RealBrowser
+from Tests.Desktop.real_chromium import RealChromium
+from Tests.Desktop.real_firefox import RealFirefox
+from Tests.Desktop.terminal import run_in_terminal_and_close_it
+from Tests.Desktop.waiting import wait_for
+from Tests.Support import listed
 
 
 def setUpModule() -> None:

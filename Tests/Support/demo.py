@@ -13,10 +13,14 @@ from collections.abc import Iterable
 from dataclasses import dataclass
 from pathlib import Path
 
-import desktop_entries
-from browser_catalogue import Row, row
-from browser_data import ChromiumProfile, FirefoxProfile, PicturePlace, plant_chromium, plant_firefox, write
-from pictures import Colour, person_png, ring_png
+# A script's own folder is searched, not the checkout's root.
+sys.path.insert(0, str(Path(__file__).resolve().parents[2]))
+
+from Tests.Support import desktop_entries
+from Tests.Support.browser_catalogue import Row, row
+from Tests.Support.browser_data import ChromiumProfile, FirefoxProfile, PicturePlace
+from Tests.Support.browser_data import plant_chromium, plant_firefox, write
+from Tests.Support.pictures import Colour, person_png, ring_png
 
 BLUE: Colour = (52, 120, 199, 255)
 GREEN: Colour = (60, 145, 95, 255)
@@ -72,8 +76,7 @@ def plant(folder: Path) -> dict[str, str]:
     for browser in BROWSERS:
         script = write(programs / browser.row.program, _SCRIPT.format(log=shlex.quote(str(folder / "started.log"))))
         script.chmod(0o755)
-        _plant_entry(share, browser, script)
-        _plant_profiles(home, browser)
+        plant_browser(browser, script, home, share)
     return {
         "HOME": str(home),
         "XDG_CACHE_HOME": str(home / ".cache"),
@@ -83,6 +86,12 @@ def plant(folder: Path) -> dict[str, str]:
         "XDG_DATA_DIRS": str(share),
         "XDG_RUNTIME_DIR": _runtime_folder(folder),
     }
+
+
+def plant_browser(browser: SampleBrowser, program: Path, home: Path, share: Path) -> None:
+    """Writes the desktop entry of a program that is there already, its icon, and the profiles in the home."""
+    _plant_entry(share, browser, program)
+    _plant_profiles(home, browser)
 
 
 def _runtime_folder(folder: Path) -> str:

@@ -2,6 +2,9 @@
 
 #include "Vantrel/Interface/MenuIconEngine.h"
 
+#include <QGuiApplication>
+#include <QScreen>
+
 #include <algorithm>
 
 using namespace Qt::StringLiterals;
@@ -19,7 +22,28 @@ QString escaped(QString title)
 
 PopupMenu::PopupMenu(std::function<Menu()> rows) : rows_(std::move(rows))
 {
-    connect(this, &QMenu::aboutToShow, this, &PopupMenu::build);
+    connect(this, &QMenu::aboutToShow, this, [this] {
+        if (!isBuilt_)
+            build();
+    });
+}
+
+void PopupMenu::popupBeside(const QRect &symbol)
+{
+    build();
+    const QScreen *screen = QGuiApplication::screenAt(symbol.center());
+    const QRect area = screen ? screen->availableGeometry() : QRect();
+    const int height = sizeHint().height();
+    const bool fitsBelow = !screen || symbol.bottom() + height <= area.bottom();
+    const bool fitsAbove = screen && symbol.top() - height >= area.top();
+    popupAsItIs(fitsBelow || !fitsAbove ? symbol.bottomLeft() + QPoint(0, 1) : symbol.topLeft() - QPoint(0, height));
+}
+
+void PopupMenu::popupAsItIs(const QPoint &position)
+{
+    isBuilt_ = true;
+    popup(position);
+    isBuilt_ = false;
 }
 
 void PopupMenu::updateRows()
@@ -32,6 +56,9 @@ void PopupMenu::updateRows()
     const auto same = std::ranges::find(rows, active, &QAction::objectName);
     if (!active.isEmpty() && same != rows.end())
         setActiveAction(*same);
+    // Opening it once more lays it out for the screen, with arrows to scroll if need be.
+    if (!screen()->availableGeometry().contains(QRect(pos(), sizeHint())))
+        popupAsItIs(pos());
 }
 
 void PopupMenu::build()

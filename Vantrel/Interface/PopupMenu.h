@@ -12,14 +12,22 @@ class PopupMenu final : public QMenu {
 public:
     explicit PopupMenu(std::function<Menu()> rows);
 
-    /// Builds the rows anew if the menu is open; the chosen row stays chosen if it is still there.
+    /// Opens it below a symbol on the screen, or above it where there is no room below: never over it, where a second
+    /// click would choose a row.
+    void popupBeside(const QRect &symbol);
+
+    /// Builds the rows anew if the menu is open; the chosen row stays chosen if it is still there, and all rows stay in
+    /// reach.
     void updateRows();
 
 private:
     void build();
+    /// Opens it with the rows that it has.
+    void popupAsItIs(const QPoint &position);
     void append(const MenuItem &item);
 
     std::function<Menu()> rows_;
+    bool isBuilt_ = false;
 };
 
 } // namespace vantrel

@@ -24,7 +24,10 @@ void SystemTrayIcon::activate(QSystemTrayIcon::ActivationReason reason)
     if (reason != QSystemTrayIcon::Trigger)
         return;
     const QRect symbol = icon_.geometry();
-    menu_.popup(symbol.isValid() ? symbol.bottomLeft() : QCursor::pos());
+    if (symbol.isValid())
+        menu_.popupBeside(symbol);
+    else
+        menu_.popup(QCursor::pos());
 }
 
 } // namespace vantrel

@@ -37,6 +37,28 @@ QString defaultsPath()
            "/app.kestrune.Vantrel/defaults.ini"_L1;
 }
 
+/// Once, ever: it would come at each login.
+void tellHomeless()
+{
+    QSettings defaults(defaultsPath(), QSettings::IniFormat);
+    const QString key = u"toldThatThereIsNoTray"_s;
+    if (defaults.value(key).toBool())
+        return;
+    defaults.setValue(key, true);
+    //: Title of the notice on desktops without a tray.
+    auto *box = new QMessageBox(QMessageBox::Information, u"Vantrel"_s, Texts::tr("This desktop has no tray"));
+    //: Notice on desktops without a tray. The placeholder is a command.
+    box->setInformativeText(
+        Texts::tr("Vantrel is running, but there is no place for its symbol. Start Vantrel again to "
+                  "open its settings, or give the command “%1” a keyboard shortcut of your desktop "
+                  "to open its menu.")
+            .arg(u"vantrel menu"_s));
+    box->setAttribute(Qt::WA_DeleteOnClose);
+    // The settings that it speaks of can be opened beside it.
+    box->setWindowModality(Qt::NonModal);
+    box->show();
+}
+
 } // namespace
 
 VantrelApp::VantrelApp(Platform &platform, DesktopPlatform &desktop)
@@ -51,7 +73,7 @@ VantrelApp::VantrelApp(Platform &platform, DesktopPlatform &desktop)
       settingsWindows_(*desktop.activationPolicy),
       popup_([this] { return menu(); }),
       tray_({desktop.statusItem.get(), [this] { return std::make_unique<SystemTrayIcon>(popup_); }, *desktop.log,
-             [this] { tellHomeless(); }})
+             tellHomeless})
 {
     connect(&store_, &ProfileStore::changed, this, &VantrelApp::takeStoreChange);
 }
@@ -106,25 +128,6 @@ void VantrelApp::showSettings(SettingsModel::Tab tab)
     settingsWindow_->raise();
     settingsWindow_->activateWindow();
     desktop_.activationPolicy->activate();
-}
-
-void VantrelApp::tellHomeless()
-{
-    QSettings defaults(defaultsPath(), QSettings::IniFormat);
-    const QString key = u"toldThatThereIsNoTray"_s;
-    if (defaults.value(key).toBool())
-        return;
-    defaults.setValue(key, true);
-    //: Title of the notice on desktops without a tray.
-    auto *box = new QMessageBox(QMessageBox::Information, u"Vantrel"_s, Texts::tr("This desktop has no tray"));
-    //: Notice on desktops without a tray. The placeholder is a command.
-    box->setInformativeText(
-        Texts::tr("Vantrel is running, but there is no place for its symbol. Start Vantrel again to "
-                  "open its settings, or give the command “%1” a keyboard shortcut of your desktop "
-                  "to open its menu.")
-            .arg(u"vantrel menu"_s));
-    box->setAttribute(Qt::WA_DeleteOnClose);
-    box->show();
 }
 
 Menu VantrelApp::menu()

@@ -33,7 +33,6 @@ private:
     void take(const InstanceRequest &request);
     void act(const QString &action);
     void showSettings(SettingsModel::Tab tab);
-    void tellHomeless();
     [[nodiscard]] Menu menu();
     [[nodiscard]] StatusItem::Content statusItemContent();
     void takeStoreChange();

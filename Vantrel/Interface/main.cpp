@@ -2,8 +2,7 @@
 
 #include <QApplication>
 #include <QProcessEnvironment>
-
-#include <cstdio>
+#include <QTextStream>
 
 using namespace Qt::StringLiterals;
 using namespace vantrel;
@@ -50,7 +49,7 @@ int main(int argc, char *argv[])
         application.installEventFilter(&app);
     const auto role = app.start(first);
     if (!role) {
-        std::fprintf(stderr, "vantrel: %s\n", role.error().message.toLocal8Bit().constData());
+        QTextStream(stderr) << "vantrel: " << role.error().message << Qt::endl;
         return 1;
     }
     return *role == ApplicationInstance::Role::only ? QApplication::exec() : 0;

@@ -3,6 +3,7 @@
 #include "Tests/VantrelKit/Samples.h"
 
 #include <QAction>
+#include <QScreen>
 #include <QSignalSpy>
 #include <QTest>
 
@@ -114,6 +115,43 @@ TEST_F(PopupMenuTest, WhileItIsOpenItFollowsItsRows)
     menu_.updateRows();
     EXPECT_EQ(menu_.activeAction(), nullptr);
     EXPECT_TRUE(menu_.isVisible());
+}
+
+TEST_F(PopupMenuTest, OpensBesideASymbolAndNeverOverIt)
+{
+    for (int number = 0; number < 10; ++number)
+        rows_.append(command(QString::number(number), QString::number(number)));
+    const QRect area = menu_.screen()->availableGeometry();
+    const QRect above(area.left() + 50, area.top(), 24, 24);
+    const QRect below(area.left() + 50, area.bottom() - 23, 24, 24);
+    for (const QRect &symbol : {above, below}) {
+        menu_.popupBeside(symbol);
+        ASSERT_TRUE(QTest::qWaitForWindowExposed(&menu_));
+        EXPECT_FALSE(menu_.geometry().intersects(symbol)) << symbol.top();
+        EXPECT_TRUE(area.contains(menu_.geometry())) << symbol.top();
+        EXPECT_EQ(titles().size(), 10);
+        menu_.close();
+    }
+}
+
+TEST_F(PopupMenuTest, AMenuThatGrowsWhileItIsOpenStaysInReach)
+{
+    rows_ = {command(u"One"_s, u"1"_s)};
+    const QRect area = menu_.screen()->availableGeometry();
+    menu_.popup(area.center());
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&menu_));
+    for (const int count : {24, 400}) {
+        rows_.clear();
+        for (int number = 0; number < count; ++number)
+            rows_.append(command(QString::number(number), QString::number(number)));
+        menu_.updateRows();
+        EXPECT_TRUE(area.contains(menu_.geometry())) << count;
+        EXPECT_EQ(titles().size(), count);
+        EXPECT_TRUE(menu_.isVisible());
+    }
+    QTest::keyClick(&menu_, Qt::Key_End);
+    EXPECT_EQ(menu_.activeAction(), row(u"399"_s));
+    EXPECT_TRUE(menu_.rect().contains(menu_.actionGeometry(row(u"399"_s))));
 }
 
 TEST_F(PopupMenuTest, AShortcutIsOnlyShown)
