@@ -24,6 +24,7 @@ from pictures import portrait
 PROFILE_COUNT = 20
 UNNAMED_COUNT = 2
 SQLITE = Path("/usr/bin/sqlite3")
+THUMBNAIL_SIZE = 128
 PICTURE_SIZES = (256, 288, 320, 384, 448, 512)
 
 _SUBJECTS = ("Work", "Home", "Büro", "Клиент", "Élise & Zoë", "School", "Shop “Nord”", "Test", "Ελένη", "Accounts")
@@ -100,17 +101,42 @@ class Home:
 
 
 def plant(root: Path, unnamed: int = UNNAMED_COUNT) -> Home:
-    home = Home(root)
+    home = _make_folders(root)
     random = Random(20261121)
-    for folder in (home.config, home.runtime, home.share / "applications", home.programs):
-        folder.mkdir(parents=True)
-    home.runtime.chmod(0o700)
     portraits = [portrait(random, size) for size in PICTURE_SIZES]
     for browser in CHROMIUM_BROWSERS:
         _install(home, browser, "%U")
         _plant_chromium(home.config / browser.folder, browser, random, portraits, unnamed)
     _install(home, FIREFOX, "%u")
     _plant_firefox(home.home / FIREFOX.folder)
+    return home
+
+
+def plant_many(root: Path, count: int) -> Home:
+    """One browser with that many profiles; every other one has a picture as large as Vantrel keeps them."""
+    home = _make_folders(root)
+    random = Random(20261121)
+    browser = CHROMIUM_BROWSERS[0]
+    _install(home, browser, "%U")
+    folder = home.config / browser.folder
+    infos: dict[str, tuple[str | None, bool]] = {}
+    for number in range(count):
+        profile = folder / profile_folder(number)
+        profile.mkdir(parents=True)
+        (profile / "Preferences").write_text("{}")
+        has_picture = number % 2 == 0
+        if has_picture:
+            _plant_picture(profile, portrait(random, THUMBNAIL_SIZE))
+        infos[profile.name] = (profile_name(browser, number), has_picture)
+    (folder / "Local State").write_bytes(chromium_files.local_state(random, infos))
+    return home
+
+
+def _make_folders(root: Path) -> Home:
+    home = Home(root)
+    for folder in (home.config, home.runtime, home.share / "applications", home.programs):
+        folder.mkdir(parents=True)
+    home.runtime.chmod(0o700)
     return home
 
 

@@ -16,10 +16,18 @@ TrayPresence::TrayPresence(Environment environment, std::chrono::milliseconds pa
 void TrayPresence::start(StatusItem::Content content)
 {
     patience_.start();
-    if (environment_.statusItem)
+    if (environment_.statusItem) {
         environment_.statusItem->start(std::move(content), [this](bool isShown) { takePanel(isShown); });
-    else
+    } else {
         showTrayIcon();
+        tellPlaced();
+    }
+}
+
+void TrayPresence::tellPlaced()
+{
+    if (const auto placed = std::exchange(environment_.placed, {}))
+        placed();
 }
 
 void TrayPresence::takePanel(bool isShown)
@@ -29,6 +37,7 @@ void TrayPresence::takePanel(bool isShown)
         showTrayIcon();
     else if (trayIcon_)
         trayIcon_->hide();
+    tellPlaced();
 }
 
 void TrayPresence::showTrayIcon()
@@ -40,6 +49,7 @@ void TrayPresence::showTrayIcon()
 
 void TrayPresence::settle()
 {
+    tellPlaced();
     if (isInPanel_ || (trayIcon_ && trayIcon_->isAvailable()))
         return;
     log_.notice("This desktop has no place for the menu's symbol"_L1);

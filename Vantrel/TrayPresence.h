@@ -23,6 +23,8 @@ public:
         LogSink &log;
         /// Tells the user that there is no place for the symbol.
         std::function<void()> tellHomeless;
+        /// Called once, as soon as it is known where the symbol goes. May be empty.
+        std::function<void()> placed = {};
     };
 
     /// Desktops start their panels beside everything else, and some take their time.
@@ -35,6 +37,7 @@ public:
 private:
     void takePanel(bool isShown);
     void showTrayIcon();
+    void tellPlaced();
     void settle();
 
     Environment environment_;

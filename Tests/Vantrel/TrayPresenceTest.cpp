@@ -49,7 +49,8 @@ class TrayPresenceTest : public testing::Test {
 protected:
     [[nodiscard]] TrayPresence::Environment environment(StatusItem *panel)
     {
-        return {panel, [this] { return std::make_unique<PlayedTray>(tray_); }, log_, [this] { ++told_; }};
+        return {panel, [this] { return std::make_unique<PlayedTray>(tray_); }, log_, [this] { ++told_; },
+                [this] { ++placed_; }};
     }
 
     /// Lets the patience run out.
@@ -66,6 +67,7 @@ protected:
     PlayedPanel panel_;
     TrayState tray_;
     int told_ = 0;
+    int placed_ = 0;
 };
 
 TEST_F(TrayPresenceTest, APanelIsEnough)
@@ -122,11 +124,25 @@ TEST_F(TrayPresenceTest, ADesktopWithoutAnyPlaceIsToldOnceAfterAWhile)
     EXPECT_EQ(log_.takeLines(), QStringList(u"[Menu] This desktop has no place for the menu's symbol"_s));
 }
 
+TEST_F(TrayPresenceTest, TellsOnceThatItKnowsWhereTheSymbolGoes)
+{
+    TrayPresence presence(environment(&panel_), patience_);
+    presence.start({});
+    EXPECT_EQ(placed_, 0);
+    panel_.setShown(false);
+    panel_.setShown(true);
+    EXPECT_EQ(placed_, 1);
+    TrayPresence other(environment(nullptr), patience_);
+    other.start({});
+    EXPECT_EQ(placed_, 2);
+}
+
 TEST_F(TrayPresenceTest, ABusThatNeverAnswersIsLikeNoPanel)
 {
     TrayPresence presence(environment(&panel_), patience_);
     presence.start({});
     ASSERT_TRUE(test::waitUntil([this] { return told_ > 0; }));
+    EXPECT_EQ(placed_, 1);
 }
 
 } // namespace

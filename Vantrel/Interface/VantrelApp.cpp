@@ -12,6 +12,7 @@
 #include <QMessageBox>
 #include <QSettings>
 #include <QStandardPaths>
+#include <QTimer>
 
 using namespace Qt::StringLiterals;
 
@@ -73,7 +74,7 @@ VantrelApp::VantrelApp(Platform &platform, DesktopPlatform &desktop)
       settingsWindows_(*desktop.activationPolicy),
       popup_([this] { return menu(); }),
       tray_({desktop.statusItem.get(), [this] { return std::make_unique<SystemTrayIcon>(popup_); }, *desktop.log,
-             tellHomeless})
+             tellHomeless, [this] { startSoon(); }})
 {
     connect(&store_, &ProfileStore::changed, this, &VantrelApp::takeStoreChange);
 }
@@ -85,7 +86,6 @@ std::expected<ApplicationInstance::Role, PlatformError> VantrelApp::start(const 
         return role;
     desktop_.activationPolicy->becomeAccessory();
     tray_.start(statusItemContent());
-    discovery_.start();
     // A plain start shows the symbol and nothing else.
     if (first.kind != InstanceRequest::Kind::activate)
         take(first);
@@ -96,6 +96,7 @@ void VantrelApp::take(const InstanceRequest &request)
 {
     platform_.activation->noteToken(request.activationToken);
     platform_.activation->noteStartupID(request.startupID);
+    discovery_.start();
     switch (request.kind) {
     case InstanceRequest::Kind::activate: showSettings(settingsModel_.tab()); return;
     case InstanceRequest::Kind::open: {
@@ -130,8 +131,17 @@ void VantrelApp::showSettings(SettingsModel::Tab tab)
     desktop_.activationPolicy->activate();
 }
 
+void VantrelApp::startSoon()
+{
+    // Reading profiles takes both the main thread and the processors: the symbol is drawn first.
+    constexpr std::chrono::milliseconds timeToDraw{20};
+    QTimer::singleShot(timeToDraw, this, [this] { discovery_.start(); });
+}
+
 Menu VantrelApp::menu()
 {
+    // Somebody was faster.
+    discovery_.start();
     const ProfileMenuActions actions{
         .open = [this](const Profile &profile) { opener_.open(profile, {}, ProfileOpener::Source::menu); },
         .findProfiles = [this] { showSettings(SettingsModel::Tab::profiles); },

@@ -33,6 +33,7 @@ private:
     void take(const InstanceRequest &request);
     void act(const QString &action);
     void showSettings(SettingsModel::Tab tab);
+    void startSoon();
     [[nodiscard]] Menu menu();
     [[nodiscard]] StatusItem::Content statusItemContent();
     void takeStoreChange();

@@ -149,7 +149,8 @@ TEST_F(PopupMenuTest, AMenuThatGrowsWhileItIsOpenStaysInReach)
         EXPECT_EQ(titles().size(), count);
         EXPECT_TRUE(menu_.isVisible());
     }
-    QTest::keyClick(&menu_, Qt::Key_End);
+    // From the first row up is the last one.
+    QTest::keyClick(&menu_, Qt::Key_Up);
     EXPECT_EQ(menu_.activeAction(), row(u"399"_s));
     EXPECT_TRUE(menu_.rect().contains(menu_.actionGeometry(row(u"399"_s))));
 }
