@@ -22,6 +22,7 @@ QString escaped(QString title)
 
 PopupMenu::PopupMenu(std::function<Menu()> rows) : rows_(std::move(rows))
 {
+    setStyle(&style_);
     connect(this, &QMenu::aboutToShow, this, [this] {
         if (!isBuilt_)
             build();

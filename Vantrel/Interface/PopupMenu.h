@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Platform/Menu.h"
+#include "Vantrel/Interface/PopupMenuStyle.h"
 
 #include <QMenu>
 
@@ -26,6 +27,7 @@ private:
     void popupAsItIs(const QPoint &position);
     void append(const MenuItem &item);
 
+    PopupMenuStyle style_;
     std::function<Menu()> rows_;
     bool isBuilt_ = false;
 };
