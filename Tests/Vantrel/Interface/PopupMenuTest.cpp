@@ -150,6 +150,7 @@ TEST_F(PopupMenuTest, AMenuThatGrowsWhileItIsOpenStaysInReach)
         EXPECT_TRUE(menu_.isVisible());
     }
     // From the first row up is the last one.
+    QTest::keyClick(&menu_, Qt::Key_Down);
     QTest::keyClick(&menu_, Qt::Key_Up);
     EXPECT_EQ(menu_.activeAction(), row(u"399"_s));
     EXPECT_TRUE(menu_.rect().contains(menu_.actionGeometry(row(u"399"_s))));
