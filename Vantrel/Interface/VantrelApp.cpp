@@ -113,11 +113,22 @@ void VantrelApp::take(const InstanceRequest &request)
 void VantrelApp::act(const QString &action)
 {
     if (action == "menu"_L1)
-        popup_.popup(QCursor::pos());
+        showMenu();
     else if (action == "settings"_L1)
         showSettings(SettingsModel::Tab::profiles);
     else if (action == "quit"_L1)
         QCoreApplication::quit();
+}
+
+void VantrelApp::showMenu()
+{
+    // At the very first start there is nothing to show yet, and rows that come a moment later would move under the
+    // pointer.
+    if (store_.profiles().isEmpty() && !discovery_.isIdle()) {
+        connect(&discovery_, &DiscoveryRuns::idle, this, &VantrelApp::showMenu, Qt::SingleShotConnection);
+        return;
+    }
+    popup_.popup(QCursor::pos());
 }
 
 void VantrelApp::showSettings(SettingsModel::Tab tab)

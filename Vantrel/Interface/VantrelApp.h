@@ -32,6 +32,7 @@ public:
 private:
     void take(const InstanceRequest &request);
     void act(const QString &action);
+    void showMenu();
     void showSettings(SettingsModel::Tab tab);
     void startSoon();
     [[nodiscard]] Menu menu();
