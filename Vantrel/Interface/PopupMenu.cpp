@@ -33,10 +33,11 @@ void PopupMenu::popupBeside(const QRect &symbol)
 {
     build();
     const QScreen *screen = QGuiApplication::screenAt(symbol.center());
-    const QRect area = screen ? screen->availableGeometry() : QRect();
+    const bool hasScreen = screen != nullptr;
+    const QRect area = hasScreen ? screen->availableGeometry() : QRect();
     const int height = sizeHint().height();
-    const bool fitsBelow = !screen || symbol.bottom() + height <= area.bottom();
-    const bool fitsAbove = screen && symbol.top() - height >= area.top();
+    const bool fitsBelow = !hasScreen || symbol.bottom() + height <= area.bottom();
+    const bool fitsAbove = hasScreen && symbol.top() - height >= area.top();
     popupAsItIs(fitsBelow || !fitsAbove ? symbol.bottomLeft() + QPoint(0, 1) : symbol.topLeft() - QPoint(0, height));
 }
 
