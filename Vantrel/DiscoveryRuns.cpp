@@ -131,7 +131,9 @@ void DiscoveryRuns::requestAccess(const QString &bundleID)
 
 QCoro::Task<> DiscoveryRuns::ask(FolderAccess::Panel panel, QString bundleID)
 {
-    if (co_await environment_.folderAccess->ask(std::move(panel)))
+    // In a variable of its own: g++ 12 never frees the coroutine when the condition itself waits.
+    const bool isGranted = co_await environment_.folderAccess->ask(panel);
+    if (isGranted)
         discoverBrowser(bundleID);
 }
 
