@@ -40,5 +40,4 @@ public:
 
 } // namespace
 
-// NOLINTNEXTLINE(cert-err58-cpp): how clang-tidy's plugins register themselves.
 static clang::tidy::ClangTidyModuleRegistry::Add<OwnCodeModule> registration("vantrel", "Keeps checks to own code.");
