@@ -219,6 +219,10 @@ TEST_F(InstanceListenerTest, HasMoreAskersThanItTakesAtATimeWait)
 
 TEST_F(InstanceListenerTest, GoesOnOnceFilesCanBeOpenedAgain)
 {
+    // One that is heard, first: the sanitizer looks at each class through a pipe once, which it couldn't open below.
+    const OwnedDescriptor heard = test::connectedTo(socketPath());
+    ASSERT_TRUE(test::sendAll(heard, InstanceMessage::line(open({u"vantrel://heard"_s}))));
+    ASSERT_TRUE(QTest::qWaitFor([&] { return requests_.size() == 1; }, millisecondsAllowed));
     const OwnedDescriptor early = test::connectedTo(socketPath());
     ASSERT_TRUE(test::sendAll(early, InstanceMessage::line(open({u"vantrel://early"_s}))));
     std::vector<OwnedDescriptor> others;
@@ -227,10 +231,10 @@ TEST_F(InstanceListenerTest, GoesOnOnceFilesCanBeOpenedAgain)
         while (others.empty() || others.back().isOpen())
             others.emplace_back(dup(early.number()));
         QCoreApplication::processEvents();
-        EXPECT_TRUE(requests_.isEmpty());
+        EXPECT_EQ(requests_.size(), 1);
         others.clear();
     }
-    EXPECT_TRUE(QTest::qWaitFor([&] { return !requests_.isEmpty(); }, millisecondsAllowed));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return requests_.size() == 2; }, millisecondsAllowed));
 }
 
 TEST_F(InstanceListenerTest, HearsNoOtherUser)
