@@ -9,7 +9,8 @@ function(vantrel_own_target target)
     QT_NO_KEYWORDS QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_CAST_FROM_BYTEARRAY QT_NO_URL_CAST_FROM_STRING
     QT_NO_FOREACH QT_STRICT_ITERATORS QT_USE_QSTRINGBUILDER QT_NO_NARROWING_CONVERSIONS_IN_CONNECT)
   if(VANTREL_SANITIZE)
-    target_compile_options(${target} PRIVATE -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
+    target_compile_options(${target} PRIVATE -fsanitize=address,undefined -fno-sanitize-recover=all
+      -fno-omit-frame-pointer -g1)
     target_link_options(${target} PUBLIC -fsanitize=address,undefined)
     get_target_property(type ${target} TYPE)
     if(type STREQUAL EXECUTABLE)
@@ -24,4 +25,19 @@ function(vantrel_module target)
   add_library(${target} STATIC ${module_SOURCES})
   vantrel_own_target(${target})
   target_link_libraries(${target} PUBLIC ${module_PUBLIC} PRIVATE ${module_PRIVATE})
+  vantrel_precompile(${target})
+endfunction()
+
+# Reads the headers that most sources of a target include once instead of in each: a good third of the time that building
+# takes. Which headers a source names is checked where this is off.
+function(vantrel_precompile target)
+  get_target_property(sources ${target} SOURCES)
+  list(LENGTH sources count)
+  # Precompiling takes as long as it saves in seven sources.
+  if(VANTREL_PRECOMPILE AND count GREATER 8)
+    target_precompile_headers(${target} PRIVATE ${ARGN}
+      <algorithm> <chrono> <expected> <functional> <memory> <optional> <vector>
+      <QByteArray> <QCoreApplication> <QDir> <QFile> <QFileInfo> <QHash> <QJsonDocument> <QJsonObject> <QList> <QObject>
+      <QString> <QStringList> <QUrl>)
+  endif()
 endfunction()
