@@ -28,9 +28,10 @@ struct MenuItem {
     QString id = {};
     /// Shown beside the title; empty for none.
     QKeySequence shortcut = {};
-    /// Draws the icon, a square with a side of that many device pixels; empty for rows without one. The image's own
-    /// key stays the same as long as the picture does.
+    /// Draws the icon, a square with a side of that many device pixels; empty for rows without one.
     std::function<QImage(int pixels)> icon = {};
+    /// The same as a PNG file, for a menu that another program shows; empty for rows without one.
+    std::function<QByteArray(int pixels)> iconPNG = {};
     /// What choosing the row does; empty for rows that are no commands.
     std::function<void()> action = {};
 };

@@ -18,6 +18,10 @@ public:
         std::function<Menu()> menu;
     };
 
+    /// The side for which rows are asked for their `iconPNG`. Panels draw icons at 16 logical pixels and scale down
+    /// what is larger, so that this is sharp on dense screens too.
+    static constexpr int menuIconPixels = 32;
+
     virtual ~StatusItem() = default;
 
     /// Shows the symbol as soon as there is a panel, and again whenever one comes. `shownChanged` is called soon with

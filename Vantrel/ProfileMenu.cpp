@@ -21,7 +21,7 @@ MenuItem separator()
 MenuItem command(const QString &id, const QString &title, const std::function<void()> &action,
                  const QKeySequence &shortcut = {})
 {
-    return {.title = title, .id = id, .shortcut = shortcut, .icon = {}, .action = action};
+    return {.title = title, .id = id, .shortcut = shortcut, .action = action};
 }
 
 MenuItem profileRow(const Profile &profile, const QString &title, const ProfileMenuActions &actions)
@@ -31,6 +31,7 @@ MenuItem profileRow(const Profile &profile, const QString &title, const ProfileM
         .id = "profile."_L1 + profile.id(),
         .shortcut = actions.shortcut ? actions.shortcut(profile) : QKeySequence(),
         .icon = [profile, icon = actions.icon](int pixels) { return icon(profile, pixels); },
+        .iconPNG = [profile, icon = actions.iconPNG](int pixels) { return icon(profile, pixels); },
         .action = [profile, open = actions.open] { open(profile); },
     };
 }

@@ -13,6 +13,8 @@ struct ProfileMenuActions {
     std::function<void()> quit;
     /// A profile's icon as a square with a side of that many device pixels.
     std::function<QImage(const Profile &profile, int pixels)> icon;
+    /// The same as a PNG file.
+    std::function<QByteArray(const Profile &profile, int pixels)> iconPNG;
     /// A profile's global shortcut; empty for none. May itself be empty, where there are no shortcuts.
     std::function<QKeySequence(const Profile &profile)> shortcut = {};
 };

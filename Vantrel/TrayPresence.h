@@ -34,6 +34,9 @@ public:
 
     void start(StatusItem::Content content);
 
+    /// Whether a panel shows the symbol and the menu; else, this program does.
+    [[nodiscard]] bool isInPanel() const { return isInPanel_; }
+
 private:
     void takePanel(bool isShown);
     void showTrayIcon();

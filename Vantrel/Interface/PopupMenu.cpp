@@ -6,6 +6,7 @@
 #include <QScreen>
 
 #include <algorithm>
+#include <cmath>
 
 using namespace Qt::StringLiterals;
 
@@ -61,6 +62,12 @@ void PopupMenu::updateRows()
     // Opening it once more lays it out for the screen, with arrows to scroll if need be.
     if (!screen()->availableGeometry().contains(QRect(pos(), sizeHint())))
         popupAsItIs(pos());
+}
+
+int PopupMenu::iconPixels() const
+{
+    return static_cast<int>(
+        std::ceil(style()->pixelMetric(QStyle::PM_SmallIconSize, nullptr, this) * devicePixelRatioF()));
 }
 
 void PopupMenu::build()

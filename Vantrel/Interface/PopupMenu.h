@@ -21,6 +21,9 @@ public:
     /// reach.
     void updateRows();
 
+    /// The side of its rows' icons in device pixels, on the screen where it was last.
+    [[nodiscard]] int iconPixels() const;
+
 private:
     void build();
     /// Opens it with the rows that it has.

@@ -77,6 +77,10 @@ VantrelApp::VantrelApp(Platform &platform, DesktopPlatform &desktop)
              tellHomeless, [this] { startSoon(); }})
 {
     connect(&store_, &ProfileStore::changed, this, &VantrelApp::takeStoreChange);
+    if (desktop_.statusItem) {
+        // The panel asks for all icons at once.
+        connect(&icons_, &ProfileIconCache::prepared, this, [this] { desktop_.statusItem->updateMenu(); });
+    }
 }
 
 std::expected<ApplicationInstance::Role, PlatformError> VantrelApp::start(const InstanceRequest &first)
@@ -158,10 +162,8 @@ Menu VantrelApp::menu()
         .findProfiles = [this] { showSettings(SettingsModel::Tab::profiles); },
         .showSettings = [this] { showSettings(SettingsModel::Tab::profiles); },
         .quit = [] { QCoreApplication::quit(); },
-        .icon =
-            [this](const Profile &profile, int pixels) {
-                return icons_.image(ProfileIcon::of(profile, store_.displayName(profile)), pixels);
-            },
+        .icon = [this](const Profile &profile, int pixels) { return icons_.image(iconOf(profile), pixels); },
+        .iconPNG = [this](const Profile &profile, int pixels) { return icons_.png(iconOf(profile), pixels); },
     };
     return profileMenu(store_, actions);
 }
@@ -182,9 +184,24 @@ void VantrelApp::takeStoreChange()
     for (const Profile &profile : store_.profiles())
         ids.insert(profile.id());
     icons_.keepOnly(ids);
+    prepareIcons();
     popup_.updateRows();
-    if (desktop_.statusItem)
-        desktop_.statusItem->updateMenu();
+}
+
+void VantrelApp::prepareIcons()
+{
+    QList<ProfileIcon> icons;
+    for (const ProfileStore::MenuSection &section : store_.menuSections()) {
+        for (const Profile &profile : section.profiles)
+            icons.append(iconOf(profile));
+    }
+    icons_.prepare(icons, tray_.isInPanel() ? ProfileIconCache::Sizes{.png = StatusItem::menuIconPixels}
+                                            : ProfileIconCache::Sizes{.image = popup_.iconPixels()});
+}
+
+ProfileIcon VantrelApp::iconOf(const Profile &profile) const
+{
+    return ProfileIcon::of(profile, store_.displayName(profile));
 }
 
 bool VantrelApp::eventFilter(QObject *object, QEvent *event)

@@ -36,8 +36,10 @@ private:
     void showSettings(SettingsModel::Tab tab);
     void startSoon();
     [[nodiscard]] Menu menu();
+    [[nodiscard]] ProfileIcon iconOf(const Profile &profile) const;
     [[nodiscard]] StatusItem::Content statusItemContent();
     void takeStoreChange();
+    void prepareIcons();
 
     Platform &platform_;
     DesktopPlatform &desktop_;

@@ -1,14 +1,11 @@
 #include "Platform/Linux/StatusItem/DBusMenuProperties.h"
 
-#include "Platform/Linux/StatusItem/PNGCache.h"
+#include "Platform/StatusItem.h"
 
 using namespace Qt::StringLiterals;
 
 namespace vantrel {
 namespace {
-
-/// Hosts draw icons at 16 logical pixels and scale down what is larger, so that this is sharp on dense screens too.
-constexpr int iconPixels = 32;
 
 bool breaksLine(QChar character)
 {
@@ -63,7 +60,7 @@ DBusMenuShortcut dbusMenuShortcut(const QKeySequence &sequence)
     return shortcut;
 }
 
-QVariantMap dbusMenuProperties(const MenuItem &item, PNGCache &pictures)
+QVariantMap dbusMenuProperties(const MenuItem &item)
 {
     if (item.kind == MenuItem::Kind::separator)
         return {{u"type"_s, u"separator"_s}};
@@ -72,8 +69,8 @@ QVariantMap dbusMenuProperties(const MenuItem &item, PNGCache &pictures)
         properties.insert(u"enabled"_s, false);
     if (!item.shortcut.isEmpty())
         properties.insert(u"shortcut"_s, QVariant::fromValue(dbusMenuShortcut(item.shortcut)));
-    if (item.icon && item.kind != MenuItem::Kind::header) {
-        if (const QByteArray picture = pictures.encoded(item.icon(iconPixels)); !picture.isEmpty())
+    if (item.iconPNG && item.kind != MenuItem::Kind::header) {
+        if (const QByteArray picture = item.iconPNG(StatusItem::menuIconPixels); !picture.isEmpty())
             properties.insert(u"icon-data"_s, picture);
     }
     return properties;

@@ -26,7 +26,6 @@ QSet<QString> differences(const QVariantMap &former, const QVariantMap &current)
 
 DBusMenuRows::Changes DBusMenuRows::replace(const Menu &menu)
 {
-    pictures_.startMenu();
     const QList<Key> keysOfMenu = keys(menu);
     const QList<Row> former = std::exchange(rows_, {});
     const QHash<int, qsizetype> formerPlaces = std::exchange(places_, {});
@@ -36,7 +35,7 @@ DBusMenuRows::Changes DBusMenuRows::replace(const Menu &menu)
     for (qsizetype place = 0; place < menu.size(); ++place) {
         const MenuItem &item = menu[place];
         const int number = numberFor(keysOfMenu[place]);
-        rows_.append({number, dbusMenuProperties(item, pictures_), item.action});
+        rows_.append({number, dbusMenuProperties(item), item.action});
         places_.insert(number, place);
         const qsizetype formerPlace = formerPlaces.value(number, -1);
         changes.hasAny |= formerPlace != place;

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "Platform/Linux/StatusItem/PNGCache.h"
 #include "Platform/Menu.h"
 
 #include <QHash>
@@ -60,7 +59,6 @@ private:
     QList<Row> rows_;
     QHash<int, qsizetype> places_;
     QHash<Key, int> numbers_;
-    PNGCache pictures_;
 };
 
 } // namespace vantrel

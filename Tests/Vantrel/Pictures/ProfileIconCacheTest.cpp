@@ -2,6 +2,8 @@
 
 #include "Tests/VantrelKit/Pictures.h"
 
+#include <QSignalSpy>
+
 #include <gtest/gtest.h>
 
 #include <vector>
@@ -94,10 +96,85 @@ TEST(ProfileIconCache, ForgetsTheProfilesThatAreNotKept)
     EXPECT_NE(cache.image(work(), 16).cacheKey(), workKey);
 }
 
+TEST(ProfileIconCache, GivesTheSameFileWhileNothingChanges)
+{
+    ProfileIconCache cache;
+    const QByteArray file = cache.png(work(), 32);
+    EXPECT_EQ(QImage::fromData(file, "PNG").convertToFormat(QImage::Format_ARGB32_Premultiplied), work().image(32));
+    EXPECT_EQ(cache.png(work(), 32).constData(), file.constData());
+    EXPECT_NE(cache.png(home(), 32), file);
+    EXPECT_EQ(QImage::fromData(cache.png(work(), 16), "PNG").size(), QSize(16, 16));
+}
+
+TEST(ProfileIconCache, HasWhatWasPreparedWithoutDrawing)
+{
+    ProfileIconCache cache;
+    QSignalSpy prepared(&cache, &ProfileIconCache::prepared);
+    cache.prepare({work(), home()}, {.image = 24, .png = 32});
+    ASSERT_TRUE(prepared.wait());
+    EXPECT_EQ(cache.image(work(), 24), work().image(24));
+    EXPECT_EQ(cache.image(home(), 24), home().image(24));
+    const QByteArray file = cache.png(home(), 32);
+    EXPECT_EQ(QImage::fromData(file, "PNG").convertToFormat(QImage::Format_ARGB32_Premultiplied), home().image(32));
+    // Prepared once more, all is as it was.
+    const qint64 key = cache.image(work(), 24).cacheKey();
+    cache.prepare({work(), home()}, {.image = 24, .png = 32});
+    ASSERT_TRUE(prepared.wait());
+    EXPECT_EQ(cache.image(work(), 24).cacheKey(), key);
+    EXPECT_EQ(cache.png(home(), 32).constData(), file.constData());
+}
+
+TEST(ProfileIconCache, KeepsWhatSomebodyNeededBeforeItWasPrepared)
+{
+    ProfileIconCache cache;
+    QSignalSpy prepared(&cache, &ProfileIconCache::prepared);
+    cache.prepare({work(), home()}, {.image = 24, .png = 24});
+    const qint64 key = cache.image(home(), 24).cacheKey();
+    const QByteArray file = cache.png(home(), 24);
+    ASSERT_TRUE(prepared.wait());
+    EXPECT_EQ(cache.image(home(), 24).cacheKey(), key);
+    EXPECT_EQ(cache.png(home(), 24).constData(), file.constData());
+}
+
+TEST(ProfileIconCache, ForgetsWhatWasPreparedForWhatAnIconShowedBefore)
+{
+    ProfileIconCache cache;
+    QSignalSpy prepared(&cache, &ProfileIconCache::prepared);
+    cache.prepare({home()}, {.image = 24});
+    ProfileIcon renamed = home();
+    renamed.displayName = u"Attic"_s;
+    const qint64 key = cache.image(renamed, 24).cacheKey();
+    ASSERT_TRUE(prepared.wait());
+    EXPECT_EQ(cache.image(renamed, 24).cacheKey(), key);
+    EXPECT_EQ(cache.image(renamed, 24), renamed.image(24));
+}
+
+TEST(ProfileIconCache, OfManyPreparationsTheLastIsTold)
+{
+    ProfileIconCache cache;
+    QSignalSpy prepared(&cache, &ProfileIconCache::prepared);
+    QList<ProfileIcon> icons(50, home());
+    for (qsizetype index = 0; index < icons.size(); ++index) {
+        icons[index].id = QString::number(index);
+        cache.prepare(icons.first(index + 1), {.image = 16});
+    }
+    ASSERT_TRUE(prepared.wait());
+    EXPECT_EQ(prepared.size(), 1);
+    for (const ProfileIcon &icon : icons)
+        EXPECT_EQ(cache.image(icon, 16), icon.image(16));
+}
+
+TEST(ProfileIconCache, MayEndWhileItPrepares)
+{
+    ProfileIconCache cache;
+    cache.prepare(QList<ProfileIcon>(100, work()), {.image = 512, .png = 512});
+}
+
 TEST(ProfileIconCache, GivesNoImageForLessThanOnePixel)
 {
     ProfileIconCache cache;
     EXPECT_TRUE(cache.image(work(), 0).isNull());
+    EXPECT_TRUE(cache.png(work(), 0).isEmpty());
 }
 
 } // namespace

@@ -119,7 +119,7 @@ TEST_F(DBusMenuObjectTest, TheTypesOfAllPropertiesAreThoseOfTheProtocol)
 {
     MenuItem item = noting(u"1"_s, u"Work"_s);
     item.shortcut = QKeySequence(u"Ctrl+Alt+P"_s);
-    item.icon = [](int pixels) { return test::square(pixels, 0xff00ff00); };
+    item.iconPNG = [](int pixels) { return test::squarePNG(pixels, 0xff00ff00); };
     menu_ = {item};
     const QVariantMap properties = panel_.layout().children.value(0).properties;
     EXPECT_EQ(properties.value(u"shortcut"_s).value<QDBusArgument>().currentSignature(), u"aas"_s);
@@ -341,7 +341,7 @@ TEST_F(DBusMenuObjectTest, AThousandRowsArriveAndEachIsItself)
     menu_.clear();
     for (int index = 0; index < 1000; ++index) {
         MenuItem item = noting(QString::number(index), u"Profile %1"_s.arg(index));
-        item.icon = [picture = test::square(32, 0xff000000 + static_cast<QRgb>(index))](int) { return picture; };
+        item.iconPNG = [picture = test::squarePNG(32, 0xff000000 + static_cast<QRgb>(index))](int) { return picture; };
         menu_.append(item);
     }
     const QList<DBusMenuLayout> rows = panel_.layout().children;

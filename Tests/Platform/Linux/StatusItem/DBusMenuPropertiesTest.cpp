@@ -1,6 +1,5 @@
 #include "Platform/Linux/StatusItem/DBusMenuProperties.h"
 
-#include "Platform/Linux/StatusItem/PNGCache.h"
 #include "Tests/Platform/Linux/StatusItem/MenuSamples.h"
 
 #include <gtest/gtest.h>
@@ -12,12 +11,6 @@ namespace {
 
 using test::command;
 using test::plainRow;
-
-QVariantMap properties(const MenuItem &item)
-{
-    PNGCache pictures;
-    return dbusMenuProperties(item, pictures);
-}
 
 TEST(DBusMenuLabel, EveryCharacterOfATitleStandsForItself)
 {
@@ -50,7 +43,7 @@ TEST(DBusMenuShortcut, NamesModifiersAndThenTheKey)
 
 TEST(DBusMenuProperties, ACommandHasOnlyALabel)
 {
-    EXPECT_EQ(properties(command(u"1"_s, u"Work_1"_s)), (QVariantMap{{u"label"_s, u"Work__1"_s}}));
+    EXPECT_EQ(dbusMenuProperties(command(u"1"_s, u"Work_1"_s)), (QVariantMap{{u"label"_s, u"Work__1"_s}}));
 }
 
 TEST(DBusMenuProperties, ACommandHasItsShortcutAndItsIcon)
@@ -58,11 +51,11 @@ TEST(DBusMenuProperties, ACommandHasItsShortcutAndItsIcon)
     MenuItem item = command(u"1"_s, u"Work"_s);
     item.shortcut = QKeySequence(u"Ctrl+Alt+P"_s);
     int pixelsAskedFor = 0;
-    item.icon = [&](int pixels) {
+    item.iconPNG = [&](int pixels) {
         pixelsAskedFor = pixels;
-        return test::square(pixels, 0xff00ff00);
+        return test::squarePNG(pixels, 0xff00ff00);
     };
-    const QVariantMap all = properties(item);
+    const QVariantMap all = dbusMenuProperties(item);
     EXPECT_EQ(all.keys(), (QStringList{u"icon-data"_s, u"label"_s, u"shortcut"_s}));
     EXPECT_EQ(all.value(u"shortcut"_s).value<DBusMenuShortcut>(), dbusMenuShortcut(item.shortcut));
     const QImage icon = QImage::fromData(all.value(u"icon-data"_s).toByteArray(), "PNG");
@@ -74,24 +67,25 @@ TEST(DBusMenuProperties, ACommandHasItsShortcutAndItsIcon)
 TEST(DBusMenuProperties, WhatCanNotBeChosenIsDisabled)
 {
     const QVariantMap disabled{{u"label"_s, u"Title"_s}, {u"enabled"_s, false}};
-    EXPECT_EQ(properties(plainRow(MenuItem::Kind::text, u"Title"_s)), disabled);
-    EXPECT_EQ(properties(plainRow(MenuItem::Kind::header, u"Title"_s)), disabled);
-    EXPECT_EQ(properties(command(u"1"_s, u"Title"_s, {})), disabled);
+    EXPECT_EQ(dbusMenuProperties(plainRow(MenuItem::Kind::text, u"Title"_s)), disabled);
+    EXPECT_EQ(dbusMenuProperties(plainRow(MenuItem::Kind::header, u"Title"_s)), disabled);
+    EXPECT_EQ(dbusMenuProperties(command(u"1"_s, u"Title"_s, {})), disabled);
 }
 
 TEST(DBusMenuProperties, AHeaderHasNoIconAndAnIconWithoutPixelsIsNone)
 {
     MenuItem header = plainRow(MenuItem::Kind::header, u"Title"_s);
-    header.icon = [](int pixels) { return test::square(pixels, 0xff00ff00); };
-    EXPECT_FALSE(properties(header).contains(u"icon-data"_s));
+    header.iconPNG = [](int pixels) { return test::squarePNG(pixels, 0xff00ff00); };
+    EXPECT_FALSE(dbusMenuProperties(header).contains(u"icon-data"_s));
     MenuItem item = command(u"1"_s, u"Title"_s);
-    item.icon = [](int) { return QImage(); };
-    EXPECT_FALSE(properties(item).contains(u"icon-data"_s));
+    item.iconPNG = [](int) { return QByteArray(); };
+    EXPECT_FALSE(dbusMenuProperties(item).contains(u"icon-data"_s));
 }
 
 TEST(DBusMenuProperties, ASeparatorIsNothingElse)
 {
-    EXPECT_EQ(properties(plainRow(MenuItem::Kind::separator, u"Title"_s)), (QVariantMap{{u"type"_s, u"separator"_s}}));
+    EXPECT_EQ(dbusMenuProperties(plainRow(MenuItem::Kind::separator, u"Title"_s)),
+              (QVariantMap{{u"type"_s, u"separator"_s}}));
 }
 
 } // namespace

@@ -171,7 +171,7 @@ TEST_F(DBusMenuRowsTest, ChangesNameThePropertiesThatAreNewOtherOrGone)
     replace({item, other});
     item.title = u"Renamed"_s;
     item.shortcut = {};
-    item.icon = [](int pixels) { return test::square(pixels, 0xff00ff00); };
+    item.iconPNG = [](int pixels) { return test::squarePNG(pixels, 0xff00ff00); };
     const DBusMenuRows::Changes changes = replace({item, other});
     EXPECT_TRUE(changes.hasAny);
     EXPECT_EQ(changes.properties.keys(), QList<int>{numbers_[0]});

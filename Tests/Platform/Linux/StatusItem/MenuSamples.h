@@ -2,6 +2,7 @@
 
 #include "Platform/Menu.h"
 
+#include <QBuffer>
 #include <QColor>
 
 #include <utility>
@@ -11,14 +12,14 @@ namespace vantrel::test {
 /// A row that can be chosen.
 [[nodiscard]] inline MenuItem command(const QString &id, const QString &title, std::function<void()> action = [] {})
 {
-    MenuItem item{.title = title, .id = id, .shortcut = {}, .icon = {}, .action = std::move(action)};
+    MenuItem item{.title = title, .id = id, .action = std::move(action)};
     return item;
 }
 
 /// A row that can't.
 [[nodiscard]] inline MenuItem plainRow(MenuItem::Kind kind, const QString &title = {})
 {
-    return {.kind = kind, .title = title, .id = {}, .shortcut = {}, .icon = {}, .action = {}};
+    return {.kind = kind, .title = title, .action = {}};
 }
 
 [[nodiscard]] inline QImage square(int pixels, QRgb color)
@@ -26,6 +27,13 @@ namespace vantrel::test {
     QImage image(pixels, pixels, QImage::Format_ARGB32_Premultiplied);
     image.fill(QColor::fromRgba(color));
     return image;
+}
+
+[[nodiscard]] inline QByteArray squarePNG(int pixels, QRgb color)
+{
+    QBuffer file;
+    file.open(QIODevice::WriteOnly);
+    return square(pixels, color).save(&file, "PNG") ? file.data() : QByteArray();
 }
 
 } // namespace vantrel::test
