@@ -3,10 +3,13 @@
 import json
 import os
 import re
+import time
+from contextlib import suppress
 from pathlib import Path
 
 from Tests.Desktop.desktop_session import require_programs
 from Tests.Desktop.real_browser import BrowserProfile, RealBrowser, installed_entry
+from Tests.Desktop.waiting import wait_for
 
 _PROGRAM = "/usr/bin/chromium"
 
@@ -17,6 +20,9 @@ _SWITCHES = (
     "--disable-background-networking", "--disable-component-update", "--disable-sync", "--password-store=basic",
     "--proxy-server=http://127.0.0.1:9",
 )
+
+# So long Chromium waits before it saves. What was typed by then was lost: the page has its title before it takes keys.
+_SAVING_SECONDS = 20.0
 
 # In the order in which they are made, which is neither that of their numbers nor that of their names.
 _NAMES = {"Profile 10": "Work", "Default": "Büro & Straße", "Profile 2": "Home"}
@@ -49,6 +55,40 @@ class RealChromium(RealBrowser):
     def make_profile(self, folder: str, mark: str) -> None:
         """The browser makes the profile that it is to open; it goes on."""
         self._mark(mark, [_PROGRAM, *_SWITCHES, f"--profile-directory={folder}"])
+
+    def rename_profile(self, folder: str, mark: str, name: str) -> None:
+        """As a user does, on the browser's own page: opens the profile and leaves it open, with its new name saved."""
+        self.make_profile(folder, mark)
+        next_attempt = 0.0
+
+        def is_saved() -> bool:
+            nonlocal next_attempt
+            if time.monotonic() > next_attempt:
+                self._type_name(name)
+                next_attempt = time.monotonic() + _SAVING_SECONDS
+            return self._saved_name(folder) == name
+
+        wait_for(is_saved, f"Chromium to save the name {name}")
+
+    def _type_name(self, name: str) -> None:
+        self._keys("key", "ctrl+l")
+        self._keys("type", "chrome://settings/manageProfile")
+        self._keys("key", "Return")
+        self.session.wait_for_window(self.title_of("Settings - Customize profile"))
+        # From the page's way back to the name, which is then selected.
+        self._keys("key", "Tab", "ctrl+a")
+        self._keys("type", name)
+        self._keys("key", "Return")
+
+    def _keys(self, command: str, *keys: str) -> None:
+        self.session.run(["xdotool", command, "--delay", "30", *keys])
+
+    def _saved_name(self, folder: str) -> str:
+        """Read again and again: the browser saves some seconds after a change."""
+        with suppress(OSError, ValueError, KeyError):
+            state = json.loads((self.data_folder / "Local State").read_bytes())
+            return str(state["profile"]["info_cache"][folder]["name"])
+        return ""
 
     def _entry(self) -> str:
         require_programs({_PROGRAM: "chromium"})

@@ -158,6 +158,20 @@ class RealBrowserEnds(AppCase):
                 browser.quit()
                 wait_for(lambda names=names: self.folders(browser) == names, f"the profiles {names} of Chromium")
 
+    def test_the_next_menu_has_the_name_that_a_profile_was_given_in_a_real_browser(self) -> None:
+        panel = XfcePanel(self.session)
+        panel.start()
+        with PageServer() as server:
+            browser = RealChromium(self.session, server)
+            browser.plant_entry()
+            self.session.start_app()
+            panel.wait_for_symbol()
+            browser.rename_profile("Default", "Work", "Kontor")
+            bus = MessageBus(self.session)
+            self.assertNotIn("Kontor", bus.menu_titles())
+            browser.quit()
+        wait_for(lambda: "Kontor" in bus.menu_titles(), "the profile's new name in the menu")
+
     def folders(self, browser: RealChromium) -> list[str]:
         """The folders of the browser's profiles in the saved state."""
         profiles = [each for each in self.session.saved()["profiles"] if each["browserBundleID"] == browser.bundle_id]
