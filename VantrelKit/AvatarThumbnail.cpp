@@ -1,9 +1,11 @@
 #include "VantrelKit/AvatarThumbnail.h"
 
-#include <QBuffer>
+#include "VantrelKit/PNGCoding.h"
+#include "VantrelKit/PictureDecoding.h"
+
+#include <QFile>
 #include <QFileInfo>
 #include <QImage>
-#include <QImageReader>
 
 #include <algorithm>
 
@@ -25,22 +27,15 @@ std::optional<QByteArray> avatarThumbnailPNG(const QString &path)
 {
     if (!QFileInfo(path).isFile())
         return std::nullopt;
-    QImageReader reader(path);
-    // Browsers name these files without an extension, or with the wrong one.
-    reader.setDecideFormatFromContent(true);
-    reader.setAutoTransform(true);
-    const QImage picture = reader.read();
+    QFile file(path);
+    const QImage picture = file.open(QIODevice::ReadOnly) ? decodedPicture(file) : QImage();
     if (picture.isNull())
         return std::nullopt;
     const QSize size = thumbnailSize(picture.size());
     const QImage thumbnail =
         size == picture.size() ? picture : picture.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
-    QByteArray png;
-    QBuffer buffer(&png);
-    buffer.open(QIODevice::WriteOnly);
-    if (!thumbnail.save(&buffer, "PNG"))
-        return std::nullopt;
-    return png;
+    const QByteArray png = PNGCoding::encoded(thumbnail);
+    return png.isEmpty() ? std::nullopt : std::optional(png);
 }
 
 } // namespace vantrel

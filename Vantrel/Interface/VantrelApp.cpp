@@ -1,5 +1,6 @@
 #include "Vantrel/Interface/VantrelApp.h"
 
+#include "Platform/ProcessMemory.h"
 #include "Vantrel/Interface/SystemTrayIcon.h"
 #include "Vantrel/Pictures/TrayImage.h"
 #include "Vantrel/ProfileMenu.h"
@@ -77,6 +78,8 @@ VantrelApp::VantrelApp(Platform &platform, DesktopPlatform &desktop)
              tellHomeless, [this] { startSoon(); }})
 {
     connect(&store_, &ProfileStore::changed, this, &VantrelApp::takeStoreChange);
+    // Reading and drawing leave much free memory behind.
+    connect(&icons_, &ProfileIconCache::prepared, this, [] { ProcessMemory::giveBack(); });
     if (desktop_.statusItem) {
         // The panel asks for all icons at once.
         connect(&icons_, &ProfileIconCache::prepared, this, [this] { desktop_.statusItem->updateMenu(); });

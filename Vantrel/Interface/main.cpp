@@ -1,3 +1,4 @@
+#include "Platform/ProcessMemory.h"
 #include "Vantrel/Interface/VantrelApp.h"
 
 #include <QApplication>
@@ -30,6 +31,7 @@ InstanceRequest requestOf(const QStringList &arguments)
 
 int main(int argc, char *argv[])
 {
+    ProcessMemory::keepSmall();
     // Before the application: Qt takes the variables for itself.
     Platform platform = Platform::create();
     QStringList arguments;

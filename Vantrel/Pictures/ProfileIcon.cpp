@@ -3,12 +3,12 @@
 #include "Vantrel/Pictures/ProfileColor.h"
 #include "Vantrel/Pictures/ProfileInitial.h"
 #include "Vantrel/Pictures/Symbols.h"
+#include "VantrelKit/PictureDecoding.h"
 #include "VantrelKit/Profile.h"
 
 #include <QBuffer>
 #include <QFontDatabase>
 #include <QFontMetricsF>
-#include <QImageReader>
 #include <QPainter>
 
 #include <algorithm>
@@ -26,12 +26,9 @@ constexpr double letterShare = 0.5;
 
 QImage readAvatar(const QByteArray &content)
 {
-    QBuffer buffer;
-    buffer.setData(content);
-    QImageReader reader(&buffer);
-    reader.setDecideFormatFromContent(true);
-    reader.setAutoTransform(true);
-    return reader.read();
+    QBuffer file;
+    file.setData(content);
+    return file.open(QIODevice::ReadOnly) ? decodedPicture(file) : QImage();
 }
 
 void fillOval(QPainter &painter, const QRectF &rectangle, const QBrush &brush)

@@ -1,22 +1,10 @@
 #include "Vantrel/Pictures/ProfileIconCache.h"
 
-#include <QBuffer>
+#include "VantrelKit/PNGCoding.h"
+
 #include <QtConcurrentRun>
 
 namespace vantrel {
-namespace {
-
-/// Least effort: the files live in memory and are read by a program of the same session.
-constexpr int quality = 80;
-
-QByteArray encoded(const QImage &picture)
-{
-    QBuffer file;
-    file.open(QIODevice::WriteOnly);
-    return picture.save(&file, "PNG", quality) ? file.data() : QByteArray();
-}
-
-} // namespace
 
 ProfileIconCache::ProfileIconCache()
 {
@@ -43,7 +31,7 @@ QByteArray ProfileIconCache::png(const ProfileIcon &icon, int pixels)
 {
     QByteArray &file = entry(icon).files[pixels];
     if (file.isNull())
-        file = encoded(icon.image(pixels));
+        file = PNGCoding::encoded(icon.image(pixels));
     return file;
 }
 
@@ -66,7 +54,7 @@ void ProfileIconCache::prepare(const QList<ProfileIcon> &icons, Sizes sizes)
             if (sizes.image > 0)
                 entry.images.insert(sizes.image, icon.image(sizes.image));
             if (sizes.png > 0)
-                entry.files.insert(sizes.png, encoded(icon.image(sizes.png)));
+                entry.files.insert(sizes.png, PNGCoding::encoded(icon.image(sizes.png)));
             drawn.append(entry);
         }
         return drawn;

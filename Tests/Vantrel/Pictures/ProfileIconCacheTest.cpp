@@ -1,6 +1,7 @@
 #include "Vantrel/Pictures/ProfileIconCache.h"
 
 #include "Tests/VantrelKit/Pictures.h"
+#include "VantrelKit/PNGCoding.h"
 
 #include <QSignalSpy>
 
@@ -100,7 +101,7 @@ TEST(ProfileIconCache, GivesTheSameFileWhileNothingChanges)
 {
     ProfileIconCache cache;
     const QByteArray file = cache.png(work(), 32);
-    EXPECT_EQ(QImage::fromData(file, "PNG").convertToFormat(QImage::Format_ARGB32_Premultiplied), work().image(32));
+    EXPECT_EQ(PNGCoding::decoded(file).convertToFormat(QImage::Format_ARGB32_Premultiplied), work().image(32));
     EXPECT_EQ(cache.png(work(), 32).constData(), file.constData());
     EXPECT_NE(cache.png(home(), 32), file);
     EXPECT_EQ(QImage::fromData(cache.png(work(), 16), "PNG").size(), QSize(16, 16));
@@ -115,7 +116,7 @@ TEST(ProfileIconCache, HasWhatWasPreparedWithoutDrawing)
     EXPECT_EQ(cache.image(work(), 24), work().image(24));
     EXPECT_EQ(cache.image(home(), 24), home().image(24));
     const QByteArray file = cache.png(home(), 32);
-    EXPECT_EQ(QImage::fromData(file, "PNG").convertToFormat(QImage::Format_ARGB32_Premultiplied), home().image(32));
+    EXPECT_EQ(PNGCoding::decoded(file).convertToFormat(QImage::Format_ARGB32_Premultiplied), home().image(32));
     // Prepared once more, all is as it was.
     const qint64 key = cache.image(work(), 24).cacheKey();
     cache.prepare({work(), home()}, {.image = 24, .png = 32});
