@@ -48,7 +48,11 @@ void DiscoveryRuns::start()
         if (isRead(browser.bundleID))
             followed.append(browser.bundleID);
     }
-    environment_.runningApplications.watch(followed, [this](const QString &bundleID) { browserQuit(bundleID); });
+    environment_.runningApplications.watch(followed, [this](const QString &bundleID, bool isRunning) {
+        // What a browser has written is complete once the last of its processes has ended.
+        if (!isRunning)
+            discoverBrowser(bundleID);
+    });
 }
 
 void DiscoveryRuns::discoverAll()
@@ -97,12 +101,6 @@ void DiscoveryRuns::finish(const DiscoveryResults &results)
         discoverBrowser(bundleID);
     if (isIdle())
         Q_EMIT idle();
-}
-
-void DiscoveryRuns::browserQuit(const QString &bundleID)
-{
-    if (isRead(bundleID) && !environment_.runningApplications.isRunning(bundleID))
-        discoverBrowser(bundleID);
 }
 
 bool DiscoveryRuns::canRequestAccess(const QString &bundleID) const

@@ -57,7 +57,6 @@ Q_SIGNALS:
 private:
     void discover(const QList<Browser> &browsers);
     void finish(const DiscoveryResults &results);
-    void browserQuit(const QString &bundleID);
     QCoro::Task<> ask(FolderAccess::Panel panel, QString bundleID);
 
     ProfileStore &store_;

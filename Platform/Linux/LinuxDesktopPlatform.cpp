@@ -3,7 +3,7 @@
 #include "Platform/Linux/Instance/InstanceSocketPath.h"
 #include "Platform/Linux/Instance/LinuxApplicationInstance.h"
 #include "Platform/Linux/LinuxActivationPolicy.h"
-#include "Platform/Linux/Processes/BrowserProcesses.h"
+#include "Platform/Linux/Processes/BrowserProcessesThread.h"
 #include "Platform/Linux/StandardErrorLog.h"
 #include "Platform/Linux/StatusItem/StatusNotifierItem.h"
 
@@ -34,7 +34,7 @@ DesktopPlatform DesktopPlatform::create(Platform &platform)
         .log = std::make_unique<StandardErrorLog>(variables),
         .instance = std::make_unique<LinuxApplicationInstance>(bus, instanceSocketPath(variables)),
         .runningApplications =
-            std::make_unique<BrowserProcesses>(*platform.browserData, bus, SingletonContext::current()),
+            std::make_unique<BrowserProcessesThread>(*platform.browserData, bus, SingletonContext::current()),
         .activationPolicy = std::make_unique<LinuxActivationPolicy>(),
         .statusItem = std::make_unique<StatusNotifierItem>(bus, *platform.activation, Environment::from(variables)),
         .folderAccess = nullptr,

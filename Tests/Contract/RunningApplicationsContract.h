@@ -57,7 +57,10 @@ protected:
 
     void watch(const QStringList &bundleIDs)
     {
-        applications().watch(bundleIDs, [this](const QString &bundleID) { told_.append(bundleID); });
+        applications().watch(bundleIDs, [this](const QString &bundleID, bool isStillRunning) {
+            told_.append(bundleID);
+            EXPECT_EQ(isStillRunning, isRunning(bundleID));
+        });
     }
 
     /// What was told since the last call, once there are as many.

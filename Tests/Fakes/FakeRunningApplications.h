@@ -20,7 +20,8 @@ public:
             return false;
         --instances_[bundleID];
         if (watched_.contains(bundleID))
-            QMetaObject::invokeMethod(&context_, [this, bundleID] { terminated_(bundleID); }, Qt::QueuedConnection);
+            QMetaObject::invokeMethod(
+                &context_, [this, bundleID] { terminated_(bundleID, isRunning(bundleID)); }, Qt::QueuedConnection);
         return true;
     }
 
@@ -29,7 +30,7 @@ public:
 
     [[nodiscard]] bool isRunning(const QString &bundleID) const override { return instances_.value(bundleID) > 0; }
 
-    void watch(const QStringList &bundleIDs, std::function<void(const QString &bundleID)> terminated) override
+    void watch(const QStringList &bundleIDs, Terminated terminated) override
     {
         watched_ = bundleIDs;
         terminated_ = std::move(terminated);
@@ -38,7 +39,7 @@ public:
 private:
     QHash<QString, int> instances_;
     QStringList watched_;
-    std::function<void(const QString &bundleID)> terminated_;
+    Terminated terminated_;
     /// Owns what is still to be told.
     QObject context_;
 };

@@ -59,7 +59,7 @@ bool BrowserProcesses::isRunning(const QString &bundleID) const
     });
 }
 
-void BrowserProcesses::watch(const QStringList &bundleIDs, std::function<void(const QString &bundleID)> terminated)
+void BrowserProcesses::watch(const QStringList &bundleIDs, Terminated terminated)
 {
     terminated_ = std::make_shared<const Terminated>(std::move(terminated));
     bundleIDs_ = bundleIDs;
@@ -128,7 +128,7 @@ void BrowserProcesses::report(const QStringList &bundleIDs) const
     const std::weak_ptr<const Terminated> listener = terminated_;
     for (const QString &bundleID : bundleIDs) {
         if (const auto terminated = listener.lock())
-            (*terminated)(bundleID);
+            (*terminated)(bundleID, isRunning(bundleID));
     }
 }
 

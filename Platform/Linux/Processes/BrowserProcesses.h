@@ -17,7 +17,8 @@
 namespace vantrel {
 
 /// Which browsers run, by the locks in their data folders and by names on the session bus; that they end, by their
-/// processes. Only browsers that are installed when `watch` is called are watched.
+/// processes. Only browsers that are installed when `watch` is called are watched. It reads files of the browsers; all
+/// of it belongs to the thread on which it was made.
 class BrowserProcesses final : public RunningApplications {
 public:
     /// `bus` is the session's; without a connection, profiles' folders are watched instead.
@@ -25,11 +26,9 @@ public:
 
     /// Looks at the locks now, so that it is right also when an event is still to come.
     [[nodiscard]] bool isRunning(const QString &bundleID) const override;
-    void watch(const QStringList &bundleIDs, std::function<void(const QString &bundleID)> terminated) override;
+    void watch(const QStringList &bundleIDs, Terminated terminated) override;
 
 private:
-    using Terminated = std::function<void(const QString &bundleID)>;
-
     [[nodiscard]] QStringList dataFolders(const QString &bundleID) const;
     void takeCreation(const QString &folder, QByteArrayView name);
     void takeEnd(const QStringList &folders);

@@ -297,7 +297,7 @@ TEST_F(ChromiumProcessesTest, WhoIsToldMayEndTheWatch)
 {
     data_.setFolder(test::edge, folder_.path(u"chrome"_s));
     const auto browser = startChrome();
-    processes_->watch({chrome, test::edge}, [this](const QString &bundleID) {
+    processes_->watch({chrome, test::edge}, [this](const QString &bundleID, bool /*isRunning*/) {
         told_.append(bundleID);
         processes_.reset();
     });

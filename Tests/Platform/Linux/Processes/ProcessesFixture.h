@@ -41,7 +41,7 @@ protected:
 
     void watch(const QStringList &bundleIDs)
     {
-        processes_->watch(bundleIDs, [this](const QString &bundleID) { told_.append(bundleID); });
+        processes_->watch(bundleIDs, [this](const QString &bundleID, bool /*isRunning*/) { told_.append(bundleID); });
     }
 
     [[nodiscard]] bool isRunning(const QString &bundleID) const { return processes_->isRunning(bundleID); }
