@@ -34,7 +34,9 @@ class OwnCodeModule final : public clang::tidy::ClangTidyModule {
 public:
     void addCheckFactories(clang::tidy::ClangTidyCheckFactories &factories) override
     {
-        factories.registerCheck<OwnCodeCheck>("vantrel-own-code");
+        // Checks come in the order of a hash table. Under this name it is before those that walk through the unit by
+        // themselves; of these, the one for names alone would take as long as all others.
+        factories.registerCheck<OwnCodeCheck>("vantrel-own-code-first");
     }
 };
 

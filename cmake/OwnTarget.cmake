@@ -12,10 +12,6 @@ function(vantrel_own_target target)
     target_compile_options(${target} PRIVATE -fsanitize=address,undefined -fno-sanitize-recover=all
       -fno-omit-frame-pointer -g1)
     target_link_options(${target} PUBLIC -fsanitize=address,undefined)
-    get_target_property(type ${target} TYPE)
-    if(type STREQUAL EXECUTABLE)
-      target_sources(${target} PRIVATE ${PROJECT_SOURCE_DIR}/cmake/SanitizerOptions.cpp)
-    endif()
   endif()
 endfunction()
 
