@@ -6,10 +6,12 @@
 #include "Platform/LogSink.h"
 #include "Platform/Platform.h"
 #include "Platform/RunningApplications.h"
+#include "Platform/SafariPorts.h"
 #include "Platform/StatusItem.h"
 #include "Platform/Updater.h"
 
 #include <memory>
+#include <optional>
 
 namespace vantrel {
 
@@ -25,6 +27,8 @@ struct DesktopPlatform {
     std::unique_ptr<FolderAccess> folderAccess;
     /// Null where the system itself keeps programs up to date.
     std::unique_ptr<Updater> updater;
+    /// None where there is no Safari.
+    std::optional<SafariPorts> safari;
 
     /// Refers to `platform`, which must outlive it. Needs a QGuiApplication.
     [[nodiscard]] static DesktopPlatform create(Platform &platform);

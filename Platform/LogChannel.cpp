@@ -16,7 +16,7 @@ struct Placeholder {
 };
 
 constexpr std::array placeholders{Placeholder{"%{public}s"_L1}, Placeholder{"%{private}s"_L1, true},
-                                  Placeholder{"%ld"_L1}, Placeholder{"%{bool}d"_L1}};
+                                  Placeholder{"%ld"_L1}, Placeholder{"%d"_L1}, Placeholder{"%{bool}d"_L1}};
 
 /// The placeholder with which the text begins; null for none.
 const Placeholder *placeholderAt(QLatin1StringView text)
@@ -57,6 +57,11 @@ QString logMessage(QLatin1StringView format, const QList<LogValue> &values, bool
     }
     Q_ASSERT(next == values.size());
     return message;
+}
+
+void LogChannel::information(QLatin1StringView format, const QList<LogValue> &values) const
+{
+    sink_.write(LogLevel::information, category_, logMessage(format, values, sink_.showsPrivateValues()));
 }
 
 void LogChannel::notice(QLatin1StringView format, const QList<LogValue> &values) const

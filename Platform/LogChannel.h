@@ -13,12 +13,13 @@ namespace vantrel {
 using LogValue = std::variant<QString, qint64, bool>;
 
 /// One area's way to the log. Messages are formats with the placeholders of the macOS log: `%{public}s`, `%{private}s`,
-/// `%ld` and `%{bool}d`. Any thread.
+/// `%ld`, `%d` and `%{bool}d`. Any thread.
 class LogChannel {
 public:
     /// The sink must outlive the channel.
     LogChannel(LogSink &sink, QString category) : sink_(sink), category_(std::move(category)) {}
 
+    void information(QLatin1StringView format, const QList<LogValue> &values = {}) const;
     void notice(QLatin1StringView format, const QList<LogValue> &values = {}) const;
     void error(QLatin1StringView format, const QList<LogValue> &values = {}) const;
 

@@ -7,6 +7,8 @@
 namespace vantrel {
 
 enum class LogLevel : std::uint8_t {
+    /// What helps to follow a case and is not worth keeping.
+    information,
     /// What the system's log calls its default level.
     notice,
     error,

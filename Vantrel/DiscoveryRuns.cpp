@@ -62,10 +62,15 @@ void DiscoveryRuns::discoverAll()
 
 void DiscoveryRuns::discoverBrowser(const QString &bundleID)
 {
+    if (const Browser *browser = installed(bundleID))
+        discover({*browser});
+}
+
+const Browser *DiscoveryRuns::installed(const QString &bundleID) const
+{
     const QList<Browser> &browsers = store_.browsers();
     const auto browser = std::ranges::find(browsers, bundleID, &Browser::bundleID);
-    if (browser != browsers.end())
-        discover({*browser});
+    return browser == browsers.end() ? nullptr : &*browser;
 }
 
 void DiscoveryRuns::discover(const QList<Browser> &browsers)
@@ -112,9 +117,8 @@ bool DiscoveryRuns::canRequestAccess(const QString &bundleID) const
 void DiscoveryRuns::requestAccess(const QString &bundleID)
 {
     const auto folder = reader_.dataFolder(bundleID);
-    const QList<Browser> &browsers = store_.browsers();
-    const auto browser = std::ranges::find(browsers, bundleID, &Browser::bundleID);
-    if (!canRequestAccess(bundleID) || !folder || browser == browsers.end())
+    const Browser *browser = installed(bundleID);
+    if (!canRequestAccess(bundleID) || !folder || !browser)
         return;
     //: Open panel message. First placeholder: a browser's name; second: its data folder's name. 'Grant Access' must
     //: match the panel's button.
@@ -133,6 +137,27 @@ QCoro::Task<> DiscoveryRuns::ask(FolderAccess::Panel panel, QString bundleID)
     const bool isGranted = co_await environment_.folderAccess->ask(panel);
     if (isGranted)
         discoverBrowser(bundleID);
+}
+
+bool DiscoveryRuns::canSearchSafari(const QString &bundleID) const
+{
+    const Browser *browser = installed(bundleID);
+    return environment_.safari != nullptr && browser != nullptr && browser->family == BrowserFamily::safari &&
+           !store_.searching().contains(bundleID);
+}
+
+void DiscoveryRuns::searchSafari(const QString &bundleID)
+{
+    if (canSearchSafari(bundleID))
+        search(*installed(bundleID));
+}
+
+QCoro::Task<> DiscoveryRuns::search(Browser safari)
+{
+    if (!store_.beginSafariSearch(safari.bundleID))
+        co_return;
+    const auto found = co_await environment_.safari->findProfiles(safari);
+    store_.endSafariSearch(safari.bundleID, found);
 }
 
 } // namespace vantrel

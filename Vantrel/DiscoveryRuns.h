@@ -24,6 +24,8 @@ public:
         RunningApplications &runningApplications;
         /// Null where the system grants access to folders in no such way.
         FolderAccess *folderAccess = nullptr;
+        /// Null where there is no Safari.
+        SafariSearch *safari = nullptr;
     };
 
     DiscoveryRuns(ProfileStore &store, Environment environment, ProfileReader reader);
@@ -47,7 +49,13 @@ public:
     /// Asks for it, and reads the browser when the user agrees.
     void requestAccess(const QString &bundleID);
 
-    /// Whether nothing is being read.
+    /// Whether the browser is a Safari whose profiles can be searched, and isn't being searched already.
+    [[nodiscard]] bool canSearchSafari(const QString &bundleID) const;
+
+    /// Searches them, which may start Safari; only the user asks for that.
+    void searchSafari(const QString &bundleID);
+
+    /// Whether nothing is being read. A search of Safari doesn't count.
     [[nodiscard]] bool isIdle() const { return reading_.isEmpty(); }
 
 Q_SIGNALS:
@@ -58,6 +66,9 @@ private:
     void discover(const QList<Browser> &browsers);
     void finish(const DiscoveryResults &results);
     QCoro::Task<> ask(FolderAccess::Panel panel, QString bundleID);
+    QCoro::Task<> search(Browser safari);
+    /// Null when it isn't installed.
+    [[nodiscard]] const Browser *installed(const QString &bundleID) const;
 
     ProfileStore &store_;
     Environment environment_;

@@ -120,6 +120,40 @@ void ProfileStore::note(const Browser &browser, const ProfileReader::Result &res
     }
 }
 
+bool ProfileStore::beginSafariSearch(const QString &bundleID)
+{
+    if (searching_.contains(bundleID))
+        return false;
+    searching_.insert(bundleID);
+    Q_EMIT changed();
+    return true;
+}
+
+void ProfileStore::endSafariSearch(const QString &bundleID, const SafariSearch::Result &found)
+{
+    if (found) {
+        takeSafariProfiles(bundleID, *found);
+    } else {
+        problems_.insert(bundleID, found.error().message);
+        log_.error("Safari's profiles couldn't be read: %{public}s"_L1, {found.error().message});
+    }
+    save();
+    searching_.remove(bundleID);
+    Q_EMIT changed();
+}
+
+void ProfileStore::takeSafariProfiles(const QString &bundleID, const QList<ProfileTarget::SafariProfile> &found)
+{
+    QList<Profile> fresh;
+    for (const ProfileTarget::SafariProfile &profile : found)
+        fresh.append({bundleID, profile.name, ProfileTarget::safariProfile(profile.name, profile.index)});
+    fresh.append(Profile::privateWindow(bundleID));
+    setProfiles(ProfileList::merge(fresh, bundleID, profiles()));
+    searchedSafari_.insert(bundleID);
+    problems_.remove(bundleID);
+    log_.notice("Found %ld Safari profiles"_L1, {qint64{found.size()}});
+}
+
 void ProfileStore::setHidden(bool isHidden, const Profile &profile)
 {
     if (isHidden)

@@ -3,6 +3,7 @@
 #include "Platform/LogChannel.h"
 #include "Vantrel/BrowserDiscovery.h"
 #include "Vantrel/ProfileCatalogue.h"
+#include "Vantrel/SafariSearch.h"
 
 #include <QObject>
 #include <QSet>
@@ -70,6 +71,10 @@ public:
     void setBrowsers(const QList<Browser> &browsers);
     /// Takes in what a discovery run found, and saves.
     void apply(const DiscoveryResults &results);
+    /// Marks a Safari as being searched for profiles; false when it is already.
+    [[nodiscard]] bool beginSafariSearch(const QString &bundleID);
+    /// Takes in what that search found, and saves. When it failed, the known profiles stay.
+    void endSafariSearch(const QString &bundleID, const SafariSearch::Result &found);
 
     void setHidden(bool isHidden, const Profile &profile);
     /// Gives a profile a name of the user's own. Blanks around it don't count; an empty name or the profile's own takes
@@ -89,6 +94,7 @@ private:
     [[nodiscard]] bool keepUnreadableFile();
     void setProfiles(const QList<Profile> &profiles);
     void note(const Browser &browser, const ProfileReader::Result &result);
+    void takeSafariProfiles(const QString &bundleID, const QList<ProfileTarget::SafariProfile> &found);
 
     QString savedStatePath_;
     LogChannel log_;

@@ -39,6 +39,7 @@ DesktopPlatform DesktopPlatform::create(Platform &platform)
         .statusItem = std::make_unique<StatusNotifierItem>(bus, *platform.activation, Environment::from(variables)),
         .folderAccess = nullptr,
         .updater = nullptr,
+        .safari = std::nullopt,
     };
 }
 

@@ -21,6 +21,16 @@ bool isJournalStream(const QString &variable)
     return variable == QString::number(status.st_dev) + u':' + QString::number(status.st_ino);
 }
 
+int priority(LogLevel level)
+{
+    switch (level) {
+    case LogLevel::information: return LOG_INFO;
+    case LogLevel::notice: return LOG_NOTICE;
+    case LogLevel::error: return LOG_ERR;
+    }
+    Q_UNREACHABLE();
+}
+
 /// In one piece, so that lines of several threads don't mix.
 void writeWhole(QByteArrayView bytes)
 {
@@ -47,7 +57,7 @@ void StandardErrorLog::write(LogLevel level, const QString &category, const QStr
 {
     QByteArray line;
     if (isJournal_)
-        line = '<' + QByteArray::number(level == LogLevel::error ? LOG_ERR : LOG_NOTICE) + '>';
+        line = '<' + QByteArray::number(priority(level)) + '>';
     line += "app.kestrune.Vantrel [" + category.toUtf8() + "] " + message.toUtf8() + '\n';
     writeWhole(line);
 }

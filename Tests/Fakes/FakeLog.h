@@ -7,7 +7,7 @@
 
 namespace vantrel::test {
 
-/// A log that a test reads: "[Profiles] message", and "[Profiles] error: message".
+/// A log that a test reads: "[Profiles] message", "[Profiles] error: message" and "[Profiles] information: message".
 class FakeLog final : public LogSink {
 public:
     [[nodiscard]] bool showsPrivateValues() const override { return showsPrivateValues_; }
@@ -16,8 +16,7 @@ public:
     void write(LogLevel level, const QString &category, const QString &message) override
     {
         const QMutexLocker lock(&mutex_);
-        const QString mark = level == LogLevel::error ? QStringLiteral("error: ") : QString();
-        lines_.append(u'[' + category + QStringLiteral("] ") + mark + message);
+        lines_.append(u'[' + category + QStringLiteral("] ") + mark(level) + message);
     }
 
     /// The lines since the last time.
@@ -28,6 +27,16 @@ public:
     }
 
 private:
+    static QString mark(LogLevel level)
+    {
+        switch (level) {
+        case LogLevel::information: return QStringLiteral("information: ");
+        case LogLevel::notice: return {};
+        case LogLevel::error: return QStringLiteral("error: ");
+        }
+        Q_UNREACHABLE();
+    }
+
     QMutex mutex_;
     QStringList lines_;
     bool showsPrivateValues_ = false;

@@ -16,6 +16,8 @@ TEST(LogMessage, ValuesStandInTheirPlacesInTheirOrder)
                          {u"com.google.Chrome"_s, u"0,3"_s, qint64{-7}, false}, false),
               u"com.google.Chrome: moved 0,3 to -7; changed: false"_s);
     EXPECT_EQ(logMessage("%{bool}d"_L1, {true}, false), u"true"_s);
+    EXPECT_EQ(logMessage("%{public}s: %d"_L1, {u"com.apple.Safari"_s, qint64{-1743}}, false),
+              u"com.apple.Safari: -1743"_s);
     EXPECT_EQ(logMessage("nothing"_L1, {}, false), u"nothing"_s);
     EXPECT_EQ(logMessage("100 %"_L1, {}, false), u"100 %"_s);
 }
@@ -43,12 +45,13 @@ TEST(LogChannel, WritesToItsCategoryAtTheLevelAsked)
 {
     test::FakeLog log;
     const LogChannel channel(log, u"Open"_s);
+    channel.information("none %ld"_L1, {qint64{0}});
     channel.notice("one"_L1);
     channel.error("two %{private}s"_L1, {u"link"_s});
     log.setShowsPrivateValues(true);
     channel.error("three %{private}s"_L1, {u"link"_s});
-    EXPECT_EQ(log.takeLines(),
-              QStringList({u"[Open] one"_s, u"[Open] error: two <private>"_s, u"[Open] error: three link"_s}));
+    EXPECT_EQ(log.takeLines(), QStringList({u"[Open] information: none 0"_s, u"[Open] one"_s,
+                                            u"[Open] error: two <private>"_s, u"[Open] error: three link"_s}));
 }
 
 } // namespace

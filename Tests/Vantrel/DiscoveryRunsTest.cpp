@@ -12,6 +12,7 @@
 
 #include <gtest/gtest.h>
 
+#include <coroutine>
 #include <optional>
 
 using namespace Qt::StringLiterals;
@@ -34,6 +35,38 @@ public:
 private:
     bool answer_ = false;
     QStringList asked_;
+};
+
+/// A search of Safari that goes on until a test ends it.
+class HeldSafariSearch final : public SafariSearch {
+public:
+    [[nodiscard]] QCoro::Task<Result> findProfiles(Browser browser) override
+    {
+        searched_.append(browser.bundleID);
+        co_await End{waiting_};
+        co_return result_;
+    }
+
+    void finish(const Result &result)
+    {
+        result_ = result;
+        waiting_.resume();
+    }
+
+    [[nodiscard]] const QStringList &searched() const { return searched_; }
+
+private:
+    struct End {
+        std::coroutine_handle<> &waiting;
+
+        [[nodiscard]] bool await_ready() const noexcept { return false; }
+        void await_suspend(std::coroutine_handle<> search) { waiting = search; }
+        void await_resume() const noexcept {}
+    };
+
+    QStringList searched_;
+    std::coroutine_handle<> waiting_;
+    Result result_;
 };
 
 /// Data folders that can't be had until a test lets them, for a run that is under way for as long as a test wants.
@@ -66,7 +99,8 @@ protected:
         if (!runs_) {
             ProfileReader reader;
             reader.appSupportRoot = planted_.folder.path(u"Application Support"_s);
-            runs_.emplace(store_, DiscoveryRuns::Environment{planted_.workspace, planted_.data, running_, &access_},
+            runs_.emplace(store_,
+                          DiscoveryRuns::Environment{planted_.workspace, planted_.data, running_, &access_, &safari_},
                           reader);
         }
         return *runs_;
@@ -89,6 +123,7 @@ protected:
     test::PlantedBrowsers planted_;
     test::FakeRunningApplications running_;
     FakeFolderAccess access_;
+    HeldSafariSearch safari_;
     test::FakeLog log_;
     QString savedPath_ = planted_.folder.path(u"saved/profiles.json"_s);
     ProfileStore store_{savedPath_, log_};
@@ -300,6 +335,59 @@ TEST_F(AccessTest, OnlyABrowserThatWasDeniedIsAskedFor)
     EXPECT_FALSE(runs().canRequestAccess(test::chrome));
     runs().requestAccess(test::chrome);
     EXPECT_TRUE(access_.asked().isEmpty());
+}
+
+TEST_F(DiscoveryRunsTest, SafariIsSearchedOnRequestAlone)
+{
+    planted_.workspace.install(test::safari, u"Safari"_s);
+    startAndFinish();
+    EXPECT_EQ(safari_.searched(), QStringList());
+    EXPECT_TRUE(runs().canSearchSafari(test::safari));
+    runs().searchSafari(test::safari);
+    EXPECT_EQ(safari_.searched(), QStringList(test::safari));
+    EXPECT_EQ(store_.searching(), QSet<QString>{test::safari});
+    EXPECT_FALSE(runs().canSearchSafari(test::safari));
+    EXPECT_TRUE(runs().isIdle());
+    safari_.finish(QList<ProfileTarget::SafariProfile>{{.name = u"Work"_s, .index = 0}});
+    EXPECT_TRUE(store_.searching().isEmpty());
+    EXPECT_EQ(list(), u"s:Work s:private"_s);
+    EXPECT_TRUE(runs().canSearchSafari(test::safari));
+}
+
+TEST_F(DiscoveryRunsTest, ASafariThatIsBeingSearchedIsNotSearchedTwice)
+{
+    planted_.workspace.install(test::safari, u"Safari"_s);
+    startAndFinish();
+    runs().searchSafari(test::safari);
+    runs().searchSafari(test::safari);
+    EXPECT_EQ(safari_.searched().size(), 1);
+    safari_.finish(std::unexpected(PlatformError{u"No."_s}));
+    EXPECT_EQ(store_.problems().value(test::safari), u"No."_s);
+    runs().searchSafari(test::safari);
+    EXPECT_EQ(safari_.searched().size(), 2);
+    safari_.finish(QList<ProfileTarget::SafariProfile>());
+}
+
+TEST_F(DiscoveryRunsTest, OnlyAnInstalledSafariIsSearched)
+{
+    planted_.plantChromium(test::chrome, u"Chrome"_s, {{u"Default"_s, u"One"_s}});
+    startAndFinish();
+    for (const QString &bundleID : {test::chrome, test::safari, test::unknownBrowser}) {
+        EXPECT_FALSE(runs().canSearchSafari(bundleID));
+        runs().searchSafari(bundleID);
+    }
+    EXPECT_EQ(safari_.searched(), QStringList());
+    EXPECT_TRUE(store_.searching().isEmpty());
+}
+
+TEST_F(DiscoveryRunsTest, WithoutTheMeansSafariIsNotSearched)
+{
+    planted_.workspace.install(test::safari, u"Safari"_s);
+    DiscoveryRuns without(store_, {planted_.workspace, planted_.data, running_}, ProfileReader());
+    without.start();
+    EXPECT_FALSE(without.canSearchSafari(test::safari));
+    without.searchSafari(test::safari);
+    EXPECT_TRUE(store_.searching().isEmpty());
 }
 
 } // namespace

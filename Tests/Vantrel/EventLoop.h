@@ -10,6 +10,12 @@ namespace vantrel::test {
 
 /// The program that tests of events run in.
 class EventProgram {
+public:
+    EventProgram() = default;
+    /// Frees what was left to the event loop to free.
+    ~EventProgram() { QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete); }
+    Q_DISABLE_COPY_MOVE(EventProgram)
+
 private:
     int argumentCount_ = 1;
     char name_[8] = "vantrel";

@@ -6,6 +6,7 @@
 #include "Vantrel/ProfileMenu.h"
 #include "Vantrel/SavedState.h"
 #include "VantrelKit/AvatarThumbnail.h"
+#include "VantrelKit/Safari/SafariMenus.h"
 
 #include <QCursor>
 #include <QGuiApplication>
@@ -39,6 +40,15 @@ QString defaultsPath()
            "/app.kestrune.Vantrel/defaults.ini"_L1;
 }
 
+std::optional<Safari::Automation> safariAutomation(DesktopPlatform &desktop, Safari::Languages &languages, Clock &clock)
+{
+    if (!desktop.safari)
+        return std::nullopt;
+    return std::optional<Safari::Automation>(
+        std::in_place,
+        Safari::Automation::Environment{*desktop.safari, *desktop.runningApplications, languages, clock, *desktop.log});
+}
+
 /// Once, ever: it would come at each login.
 void tellHomeless()
 {
@@ -67,10 +77,13 @@ VantrelApp::VantrelApp(Platform &platform, DesktopPlatform &desktop)
     : platform_(platform),
       desktop_(desktop),
       store_(SavedState::defaultPath(), *desktop.log),
+      safariLanguages_(SafariMenus::appResources(), SafariMenus::frameworkResources()),
+      safari_(safariAutomation(desktop, safariLanguages_, clock_)),
       discovery_(store_,
-                 {*platform.workspace, *platform.browserData, *desktop.runningApplications, desktop.folderAccess.get()},
+                 {*platform.workspace, *platform.browserData, *desktop.runningApplications, desktop.folderAccess.get(),
+                  safari_ ? &safari_->search() : nullptr},
                  profileReader()),
-      opener_(store_, {*platform.workspace, alert_, *desktop.log}),
+      opener_(store_, {*platform.workspace, alert_, *desktop.log, safari_ ? &safari_->windows() : nullptr}),
       links_(store_, discovery_, opener_),
       settingsWindows_(*desktop.activationPolicy),
       popup_([this] { return menu(); }),

@@ -9,10 +9,13 @@
 #include "Vantrel/Pictures/ProfileIconCache.h"
 #include "Vantrel/ProfileOpener.h"
 #include "Vantrel/ProfileStore.h"
+#include "Vantrel/Safari/Automation.h"
 #include "Vantrel/SettingsModel.h"
+#include "Vantrel/TimerClock.h"
 #include "Vantrel/TrayPresence.h"
 
 #include <memory>
+#include <optional>
 
 namespace vantrel {
 
@@ -44,6 +47,10 @@ private:
     Platform &platform_;
     DesktopPlatform &desktop_;
     ProfileStore store_;
+    TimerClock clock_;
+    Safari::Languages safariLanguages_;
+    /// None where there is no Safari.
+    std::optional<Safari::Automation> safari_;
     DiscoveryRuns discovery_;
     AlertBox alert_;
     ProfileOpener opener_;

@@ -70,7 +70,9 @@ TEST(StandardErrorLog, InTheJournalALineBeginsWithItsPriority)
     StandardErrorLog log(with(u"JOURNAL_STREAM"_s, CapturedErrors::stream()));
     log.write(LogLevel::notice, u"Open"_s, u"one"_s);
     log.write(LogLevel::error, u"Open"_s, u"two"_s);
-    EXPECT_EQ(errors.text(), "<5>app.kestrune.Vantrel [Open] one\n<3>app.kestrune.Vantrel [Open] two\n");
+    log.write(LogLevel::information, u"Open"_s, u"three"_s);
+    EXPECT_EQ(errors.text(), "<5>app.kestrune.Vantrel [Open] one\n<3>app.kestrune.Vantrel [Open] two\n"
+                             "<6>app.kestrune.Vantrel [Open] three\n");
 }
 
 TEST(StandardErrorLog, AnotherProcessesJournalIsNotOurs)
