@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QtGlobal>
+
 #include <cstdint>
 #include <expected>
 #include <functional>
@@ -29,14 +31,14 @@ public:
     };
 
     virtual ~HotKeyPort() = default;
-    HotKeyPort(const HotKeyPort &) = delete;
-    HotKeyPort &operator=(const HotKeyPort &) = delete;
+    Q_DISABLE_COPY_MOVE(HotKeyPort)
 
     /// Takes the place of the handlers there were.
     virtual void setHandlers(Handlers handlers) = 0;
 
-    /// Takes a combination for this program; the id is unique among those that are added. The error is the system's own
-    /// number of what went wrong, such as that another program holds the combination.
+    /// Takes a combination for this program; the id is unique among those that are added. A key that is down already is
+    /// heard from its next press on, so that a combination that was just recorded does nothing yet. The error is the
+    /// system's own number of what went wrong, such as that another program holds the combination.
     [[nodiscard]] virtual std::expected<void, std::int32_t> add(std::uint32_t id, std::uint32_t keyCode,
                                                                 std::uint32_t modifiers) = 0;
 

@@ -12,8 +12,7 @@ namespace vantrel {
 class KeyboardLayout {
 public:
     virtual ~KeyboardLayout() = default;
-    KeyboardLayout(const KeyboardLayout &) = delete;
-    KeyboardLayout &operator=(const KeyboardLayout &) = delete;
+    Q_DISABLE_COPY_MOVE(KeyboardLayout)
 
     /// What the key types without modifiers, as the layout has it (not capitalised); null for keys that type nothing,
     /// more than one character, or an accent for the next key. The code is a virtual key code of the Macintosh keyboard

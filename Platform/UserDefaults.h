@@ -9,8 +9,7 @@ namespace vantrel {
 class UserDefaults {
 public:
     virtual ~UserDefaults() = default;
-    UserDefaults(const UserDefaults &) = delete;
-    UserDefaults &operator=(const UserDefaults &) = delete;
+    Q_DISABLE_COPY_MOVE(UserDefaults)
 
     /// A string or a truth value as it was stored; invalid when there is none.
     [[nodiscard]] virtual QVariant value(const QString &key) const = 0;

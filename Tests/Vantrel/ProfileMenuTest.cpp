@@ -1,7 +1,13 @@
 #include "Vantrel/ProfileMenu.h"
 
+#include "KeyboardShortcuts/ModifierFlags.h"
+#include "Tests/Fakes/FakeHotKeyPort.h"
+#include "Tests/Fakes/FakeKeyboardLayout.h"
 #include "Tests/Fakes/FakeLog.h"
+#include "Tests/Fakes/FakeUserDefaults.h"
 #include "Tests/VantrelKit/Samples.h"
+#include "Vantrel/KeyEquivalent.h"
+#include "Vantrel/ProfileHotkeys.h"
 
 #include <gtest/gtest.h>
 
@@ -136,14 +142,25 @@ TEST_F(ProfileMenuTest, ProfilesHaveIconsInAnySize)
     EXPECT_FALSE(row(u"Settings…"_s).icon);
 }
 
-TEST_F(ProfileMenuTest, AProfilesShortcutIsShown)
+TEST_F(ProfileMenuTest, AProfilesShortcutIsShownAsLongAsItHasOne)
 {
+    test::FakeUserDefaults defaults;
+    test::FakeHotKeyPort port;
+    const test::FakeKeyboardLayout layout;
+    KeyboardShortcuts shortcuts({defaults, port, layout});
     fill(u"c:1=One"_s, {chrome_});
-    actions_.shortcut = [](const Profile &profile) {
-        return profile.target.isPrivate() ? QKeySequence() : QKeySequence(Qt::CTRL | Qt::ALT | Qt::Key_1);
+    actions_.shortcut = [&](const Profile &profile) {
+        return keyEquivalent(shortcuts.getShortcut(ProfileHotkeys::shortcutName(profile)), layout);
     };
+    const ShortcutName name = ProfileHotkeys::shortcutName(store_.profiles().first());
+    EXPECT_TRUE(row(u"One"_s).shortcut.isEmpty());
+    shortcuts.setShortcut(Shortcut{18, CarbonModifier::control | CarbonModifier::option}, name);
     EXPECT_EQ(row(u"One"_s).shortcut, QKeySequence(Qt::CTRL | Qt::ALT | Qt::Key_1));
     EXPECT_TRUE(row(u"Incognito Window"_s).shortcut.isEmpty());
+    store_.rename(store_.profiles().first(), u"Uno"_s);
+    EXPECT_EQ(row(u"Uno"_s).shortcut, QKeySequence(Qt::CTRL | Qt::ALT | Qt::Key_1));
+    shortcuts.setShortcut(std::nullopt, name);
+    EXPECT_TRUE(row(u"Uno"_s).shortcut.isEmpty());
 }
 
 } // namespace

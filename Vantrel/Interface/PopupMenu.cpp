@@ -1,6 +1,7 @@
 #include "Vantrel/Interface/PopupMenu.h"
 
 #include "Vantrel/Interface/MenuIconEngine.h"
+#include "Vantrel/KeyEquivalent.h"
 
 #include <QGuiApplication>
 #include <QScreen>
@@ -86,6 +87,9 @@ void PopupMenu::append(const MenuItem &item)
     case MenuItem::Kind::command: break;
     }
     QAction *row = addAction(escaped(item.title));
+    // Qt by itself writes Meta for Super.
+    if (!item.shortcut.isEmpty())
+        row->setText(row->text() + u'\t' + keyText(item.shortcut));
     row->setObjectName(item.id);
     row->setShortcut(item.shortcut);
     // Global shortcuts work by themselves; here they are only shown.

@@ -7,7 +7,7 @@
 namespace vantrel {
 
 /// A symbol of the program's own in one colour, on a transparent square with a side of that many device pixels:
-/// "paperplane.fill" or "eyeglasses". A null image for another name, or for less than one pixel.
+/// "paperplane.fill", "eyeglasses" or "xmark.circle.fill". A null image for another name, or for less than one pixel.
 [[nodiscard]] QImage symbolImage(const QString &name, int pixels, const QColor &color);
 
 /// The same in the colours in which it was drawn.

@@ -26,6 +26,8 @@ QStringList namesOfKeys(QKeyCombination combination)
         names.append(u"Alt"_s);
     if (modifiers.testFlag(Qt::ShiftModifier))
         names.append(u"Shift"_s);
+    if (modifiers.testFlag(Qt::KeypadModifier))
+        names.append(u"Num"_s);
     const QString key = QKeySequence(combination.key()).toString(QKeySequence::PortableText);
     // Where shortcuts are written as one text, these two join the keys.
     if (key == "+"_L1)

@@ -38,6 +38,7 @@ TEST(DBusMenuShortcut, NamesModifiersAndThenTheKey)
     EXPECT_EQ(shortcut(u"Meta+Shift+F5"), DBusMenuShortcut{(QStringList{u"Super"_s, u"Shift"_s, u"F5"_s})});
     EXPECT_EQ(shortcut(u"Ctrl++"), DBusMenuShortcut{(QStringList{u"Control"_s, u"plus"_s})});
     EXPECT_EQ(shortcut(u"Alt+-"), DBusMenuShortcut{(QStringList{u"Alt"_s, u"minus"_s})});
+    EXPECT_EQ(shortcut(u"Ctrl+Num+7"), DBusMenuShortcut{(QStringList{u"Control"_s, u"Num"_s, u"7"_s})});
     EXPECT_EQ(shortcut(u"Ctrl+K, 7"), (DBusMenuShortcut{{u"Control"_s, u"K"_s}, {u"7"_s}}));
 }
 
