@@ -16,16 +16,17 @@ ALLOWED = {
     "KeyboardShortcuts": {"KeyboardShortcuts", "Platform", "VantrelKit"},
     "Vantrel": {"Vantrel", "KeyboardShortcuts", "Platform", "VantrelKit"},
 }
-SYSTEM_FOLDERS = {"Linux", "MacOS", "X11", "Portal", "Carbon"}
+# Folder to the system that it is for. The back ends of one system share what is theirs alone.
+SYSTEM_FOLDERS = {"Linux": "Linux", "X11": "Linux", "Portal": "Linux", "MacOS": "MacOS", "Carbon": "MacOS"}
 SYSTEM_MACRO = re.compile(r"\bQ_OS_\w+|\b__APPLE__\b|\b__linux__\b")
 INCLUDE = re.compile(r'^\s*#\s*include\s+"([^"]+)"')
 
 
 def system_folder(path: Path) -> str | None:
-    """The per-system folder in which a path lies, as text with its module."""
-    for depth, part in enumerate(path.parts):
+    """The system that a path is for, as text with its module; none when it is for all."""
+    for part in path.parts:
         if part in SYSTEM_FOLDERS:
-            return "/".join(path.parts[: depth + 1])
+            return f"{path.parts[0]}/{SYSTEM_FOLDERS[part]}"
     return None
 
 

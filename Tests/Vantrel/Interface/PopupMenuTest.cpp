@@ -156,6 +156,16 @@ TEST_F(PopupMenuTest, AMenuThatGrowsWhileItIsOpenStaysInReach)
     EXPECT_TRUE(menu_.rect().contains(menu_.actionGeometry(row(u"399"_s))));
 }
 
+TEST_F(PopupMenuTest, StaysOpenWhenAltIsPressed)
+{
+    rows_ = {command(u"One"_s, u"1"_s)};
+    open();
+    QTest::keyClick(&menu_, Qt::Key_Alt);
+    EXPECT_TRUE(menu_.isVisible());
+    QTest::keyClick(&menu_, Qt::Key_Escape);
+    EXPECT_FALSE(menu_.isVisible());
+}
+
 TEST_F(PopupMenuTest, AShortcutIsOnlyShown)
 {
     MenuItem item = command(u"One"_s, u"1"_s);
