@@ -12,6 +12,7 @@ ROOT = Path(__file__).resolve().parent.parent
 # Module to the modules that it may include.
 ALLOWED = {
     "VantrelKit": {"VantrelKit"},
+    "LauncherStub": {"LauncherStub"},
     "Platform": {"Platform", "VantrelKit"},
     "KeyboardShortcuts": {"KeyboardShortcuts", "Platform", "VantrelKit"},
     "Vantrel": {"Vantrel", "KeyboardShortcuts", "Platform", "VantrelKit"},

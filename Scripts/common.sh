@@ -11,9 +11,9 @@ build_packages=(g++ cmake ninja-build ccache pkg-config qt6-base-dev
   libxcb1-dev libxcb-xkb-dev libxkbcommon-dev libxkbcommon-x11-dev sqlite3)
 test_packages=(libgtest-dev libgmock-dev libbenchmark-dev qt6-image-formats-plugins clang-19 clang-format-19
   clang-tidy-19 libclang-19-dev libclang-rt-19-dev llvm-19-dev shellcheck git python3 python3-flake8
-  desktop-file-utils bubblewrap util-linux jq chromium firefox-esr xvfb openbox xdotool x11-utils imagemagick dbus wmctrl trayer xfce4-panel
-  xdg-utils libglib2.0-bin python3-gi fonts-dejavu-core libxcb-xtest0-dev
-  x11-xkb-utils xdg-desktop-portal)
+  desktop-file-utils bubblewrap util-linux jq chromium firefox-esr xvfb openbox xdotool x11-utils imagemagick dbus wmctrl
+  trayer xfce4-panel xdg-utils libglib2.0-bin python3-gi fonts-dejavu-core libxcb-xtest0-dev
+  x11-xkb-utils xdg-desktop-portal icnsutils libplist-utils)
 demo_packages=(python3)
 brew_formulas=(cmake ninja ccache pkgconf qt simdjson googletest google-benchmark glib libplist libpng)
 

@@ -5,6 +5,11 @@ function(vantrel_own_target target)
   target_compile_options(${target} PRIVATE
     -Wall -Wextra -Wpedantic -Wconversion -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual
     -Wimplicit-fallthrough -Werror)
+  if(CMAKE_CXX_COMPILER_ID STREQUAL Clang)
+    # libstdc++'s stable_sort uses what it has marked as deprecated itself, and tells only g++ that this is fine. What is
+    # deprecated elsewhere, g++ finds.
+    target_compile_options(${target} PRIVATE -Wno-deprecated-declarations)
+  endif()
   target_compile_definitions(${target} PRIVATE
     QT_NO_KEYWORDS QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_CAST_FROM_BYTEARRAY QT_NO_URL_CAST_FROM_STRING
     QT_NO_FOREACH QT_STRICT_ITERATORS QT_USE_QSTRINGBUILDER QT_NO_NARROWING_CONVERSIONS_IN_CONNECT)

@@ -3,16 +3,9 @@
 #include "Platform/Linux/DetachedProcess.h"
 #include "Platform/Linux/Instance/InstanceClient.h"
 #include "Platform/Linux/Instance/InstanceSocketPath.h"
-#include "VantrelKit/Paths.h"
+#include "Platform/Linux/OwnPrograms.h"
 
 #include <QCoreApplication>
-#include <QFile>
-#include <QFileInfo>
-
-#include <unistd.h>
-
-#include <array>
-#include <cerrno>
 
 using namespace Qt::StringLiterals;
 
@@ -37,15 +30,6 @@ QStringList argumentsFor(const InstanceRequest &request)
     case InstanceRequest::Kind::action: return {u"--action"_s, request.action};
     }
     Q_UNREACHABLE();
-}
-
-/// Where it is installed, seen from the command's folder, and beside the command where both were built.
-QString appProgram()
-{
-    const QString folder = QCoreApplication::applicationDirPath();
-    const QString built = joinedPath(folder, u"vantrel-app"_s);
-    return QFileInfo::exists(built) ? built
-                                    : joinedPath(folder, QStringLiteral(VANTREL_LIBEXEC_FROM_BIN "/vantrel-app"));
 }
 
 } // namespace
@@ -74,12 +58,7 @@ PlatformError LinuxAppProcess::become()
 {
     if (!hasDisplay())
         return withoutDisplay();
-    const QByteArray program = QFile::encodeName(program_);
-    std::array<const char *, 2> arguments{program.constData(), nullptr};
-    // execv takes its arguments as if it could change them, and doesn't.
-    execv(program.constData(), const_cast<char *const *>(arguments.data()));
-    //: Error when the program that shows the menu can't be started. First: its path; second: the system's reason.
-    return {Texts::tr("%1 can't be started: %2.").arg(program_, qt_error_string(errno))};
+    return becomeProgram(program_, {});
 }
 
 bool LinuxAppProcess::hasDisplay() const
@@ -91,7 +70,7 @@ bool LinuxAppProcess::hasDisplay() const
 
 std::unique_ptr<AppProcess> AppProcess::create()
 {
-    return std::make_unique<LinuxAppProcess>(appProgram(), QProcessEnvironment::systemEnvironment());
+    return std::make_unique<LinuxAppProcess>(ownProgram(u"vantrel-app"_s), QProcessEnvironment::systemEnvironment());
 }
 
 } // namespace vantrel

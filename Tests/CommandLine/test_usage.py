@@ -8,7 +8,7 @@ from Tests.Support.command_line_case import CommandLineCase
 
 CHROME = row("com.google.Chrome")
 
-COMMANDS = ("list", "open", "link", "doctor")
+COMMANDS = ("list", "open", "link", "launcher", "doctor")
 
 
 class Usage(CommandLineCase):
@@ -19,7 +19,8 @@ class Usage(CommandLineCase):
                 self.assertRegex(text, rf"\b{command}\b")
 
     def test_the_help_of_a_command_names_its_options(self) -> None:
-        for command, options in [("list", ("--json", "--all")), ("open", ("--dry-run",)), ("doctor", ("--json",))]:
+        for command, options in [("list", ("--json", "--all")), ("open", ("--dry-run", "--alert")),
+                                 ("launcher", ("--output", "--remove")), ("doctor", ("--json",))]:
             text = self.output_of(command, "--help")
             for option in options:
                 self.assertIn(option, text)
@@ -31,7 +32,9 @@ class Usage(CommandLineCase):
         for arguments in [
             ("frobnicate",), ("List",), ("--frobnicate",), ("list", "--frobnicate"), ("list", "further"),
             ("list", "--json=yes"), ("open",), ("open", "--dry-run"), ("open", "--json", "x"), ("open", "--frobnicate"),
-            ("link",), ("link", "--dry-run", "x"), ("doctor", "further"), ("doctor", "--all"), ("",),
+            ("link",), ("link", "--dry-run", "x"), ("launcher",), ("launcher", "a", "b"),
+            ("launcher", "--output"), ("launcher", "--output", "/"), ("launcher", "--json", "x"),
+            ("doctor", "further"), ("doctor", "--all"), ("",),
             ("\x1b[31m\nforged",), ("list", "--\x1b[31m\nforged"), ("--\nforged",), ("list", "\nforged"),
         ]:
             with self.subTest(arguments):

@@ -21,6 +21,8 @@ QString usage(const CommandSyntax &syntax)
     QStringList parts{u"vantrel"_s, syntax.command};
     for (const CommandSyntax::Word &option : syntax.switches)
         parts.append(u"[--"_s + option.name + u']');
+    for (const CommandSyntax::Option &option : syntax.options)
+        parts.append(u"[--%1 %2]"_s.arg(option.name, option.value));
     for (const CommandSyntax::Word &word : syntax.required)
         parts.append(word.name);
     if (!syntax.repeated.name.isEmpty())
@@ -35,6 +37,8 @@ QString help(const CommandSyntax &syntax)
         rows.append(syntax.repeated);
     for (const CommandSyntax::Word &option : syntax.switches)
         rows.append({u"--"_s + option.name, option.description});
+    for (const CommandSyntax::Option &option : syntax.options)
+        rows.append({u"--%1 %2"_s.arg(option.name, option.value), option.description});
     //: Help of the command line, beside "--help".
     rows.append({u"--help"_s, Texts::tr("Show this help.")});
 
@@ -70,6 +74,8 @@ std::expected<CommandArguments, ExitStatus> CommandArguments::parse(const Comman
     QCommandLineParser parser;
     for (const CommandSyntax::Word &option : syntax.switches)
         parser.addOption(QCommandLineOption(option.name));
+    for (const CommandSyntax::Option &option : syntax.options)
+        parser.addOption(QCommandLineOption(option.name, {}, option.value));
     parser.addOption(QCommandLineOption(QStringList{u"h"_s, u"help"_s}));
     const bool isUnderstood = parser.parse(QStringList(u"vantrel"_s) + arguments);
     if (isUnderstood && parser.isSet(u"help"_s)) {
@@ -83,10 +89,14 @@ std::expected<CommandArguments, ExitStatus> CommandArguments::parse(const Comman
         output.message(Texts::tr("%1\nTry “%2”.").arg(*reason, u"vantrel %1 --help"_s.arg(syntax.command)));
         return std::unexpected(ExitStatus::wrongUsage);
     }
-    CommandArguments result{parser.positionalArguments(), {}};
+    CommandArguments result{.words = parser.positionalArguments(), .switches = {}};
     for (const CommandSyntax::Word &option : syntax.switches) {
         if (parser.isSet(option.name))
             result.switches.append(option.name);
+    }
+    for (const CommandSyntax::Option &option : syntax.options) {
+        if (parser.isSet(option.name))
+            result.values.insert(option.name, parser.value(option.name));
     }
     return result;
 }

@@ -2,6 +2,7 @@
 
 #include "Platform/AppProcess.h"
 #include "Platform/BrowserData.h"
+#include "Platform/LauncherProgram.h"
 #include "Platform/Workspace.h"
 #include "Vantrel/CommandLine/Output.h"
 #include "VantrelKit/ProfileReader.h"
@@ -19,6 +20,7 @@ struct CommandContext {
     const BrowserData &browserData;
     const ProfileReader &reader;
     AppProcess &app;
+    LauncherProgram &launchers;
     /// The file with the user's order, names and hidden profiles. Commands only read it.
     QString savedStatePath;
     /// Where relative file names that the user gives are looked for.

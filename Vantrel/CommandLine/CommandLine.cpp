@@ -3,6 +3,7 @@
 #include "Vantrel/CommandLine/AppCommands.h"
 #include "Vantrel/CommandLine/CommandArguments.h"
 #include "Vantrel/CommandLine/DoctorCommand.h"
+#include "Vantrel/CommandLine/LauncherCommand.h"
 #include "Vantrel/CommandLine/LinkCommand.h"
 #include "Vantrel/CommandLine/ListCommand.h"
 #include "Vantrel/CommandLine/OpenCommand.h"
@@ -29,9 +30,8 @@ struct Command {
 };
 
 constexpr std::array commands{
-    Command{&ListCommand::syntax, &ListCommand::run},
-    Command{&OpenCommand::syntax, &OpenCommand::run},
-    Command{&LinkCommand::syntax, &LinkCommand::run},
+    Command{&ListCommand::syntax, &ListCommand::run},     Command{&OpenCommand::syntax, &OpenCommand::run},
+    Command{&LinkCommand::syntax, &LinkCommand::run},     Command{&LauncherCommand::syntax, &LauncherCommand::run},
     Command{&DoctorCommand::syntax, &DoctorCommand::run},
 };
 

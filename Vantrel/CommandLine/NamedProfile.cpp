@@ -69,7 +69,8 @@ std::expected<NamedProfile, ExitStatus> NamedProfile::find(const QStringList &wo
         context.output.message(Texts::tr("The browser of this profile isn't installed."));
         return std::unexpected(ExitStatus::failed);
     }
-    return NamedProfile{*found.profile, *browser, linksOf(words, context)};
+    return NamedProfile{*found.profile, *browser, found.loaded.catalogue.displayName(*found.profile),
+                        linksOf(words, context)};
 }
 
 CommandSyntax::Word NamedProfile::syntax()

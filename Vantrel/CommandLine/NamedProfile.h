@@ -12,6 +12,8 @@ namespace vantrel {
 struct NamedProfile {
     Profile profile;
     Browser browser;
+    /// The name that the user sees.
+    QString displayName;
     /// The web links of the profile link that named it, then those given behind it.
     QList<QUrl> links;
 

@@ -1,8 +1,11 @@
 #include "Vantrel/CommandLine/OpenCommand.h"
 
+#include "Vantrel/CommandLine/AppCommands.h"
 #include "Vantrel/CommandLine/NamedProfile.h"
 #include "Vantrel/CommandLine/OrderedJson.h"
+#include "Vantrel/CommandLine/UserLinks.h"
 #include "VantrelKit/LaunchCommand.h"
+#include "VantrelKit/LaunchLink.h"
 
 #include <QCoreApplication>
 #include <QJsonArray>
@@ -27,23 +30,7 @@ Step printCommandLine(Browser browser, LaunchCommand command, CommandContext &co
     co_return {};
 }
 
-} // namespace
-
-CommandSyntax OpenCommand::syntax()
-{
-    return {
-        .command = u"open"_s,
-        //: Help of the command line.
-        .description = Texts::tr("Opens a profile, with web links if you name some."),
-        //: Help of the command line.
-        .switches = {{u"dry-run"_s, Texts::tr("Print what would be started instead, a JSON array a line.")}},
-        .required = {NamedProfile::syntax()},
-        //: Help of the command line.
-        .repeated = {u"URL"_s, Texts::tr("Web links or files to open in it.")},
-    };
-}
-
-QCoro::Task<ExitStatus> OpenCommand::run(CommandArguments arguments, CommandContext &context)
+QCoro::Task<ExitStatus> open(CommandArguments arguments, CommandContext &context)
 {
     const auto named = NamedProfile::find(arguments.words, context);
     if (!named)
@@ -65,6 +52,44 @@ QCoro::Task<ExitStatus> OpenCommand::run(CommandArguments arguments, CommandCont
         }
     }
     co_return ExitStatus::done;
+}
+
+/// Nobody reads what a program writes that was started from a menu. The app has a window for it: handed what could not
+/// be opened, it fails in the same way and says so there.
+void showFailure(const QStringList &words, CommandContext &context)
+{
+    auto link = LaunchLink::parse(words.first());
+    if (!link)
+        return;
+    link->urls += UserLinks::parse(words.sliced(1), context.workingDirectory).openable;
+    std::ignore = AppCommands::openLinks({link->text()}, context);
+}
+
+} // namespace
+
+CommandSyntax OpenCommand::syntax()
+{
+    return {
+        .command = u"open"_s,
+        //: Help of the command line.
+        .description = Texts::tr("Opens a profile, with web links if you name some."),
+        //: Help of the command line.
+        .switches = {{u"dry-run"_s, Texts::tr("Print what would be started instead, a JSON array a line.")},
+                     //: Help of the command line.
+                     {u"alert"_s,
+                      Texts::tr("Let the app show a failure. PROFILE must be a link; launchers use this.")}},
+        .required = {NamedProfile::syntax()},
+        //: Help of the command line.
+        .repeated = {u"URL"_s, Texts::tr("Web links or files to open in it.")},
+    };
+}
+
+QCoro::Task<ExitStatus> OpenCommand::run(CommandArguments arguments, CommandContext &context)
+{
+    const ExitStatus status = co_await open(arguments, context);
+    if (status == ExitStatus::failed && arguments.has(u"alert"))
+        showFailure(arguments.words, context);
+    co_return status;
 }
 
 } // namespace vantrel

@@ -26,6 +26,13 @@ CommandSyntax syntaxWithoutMore()
     return plain;
 }
 
+CommandSyntax syntaxWithOption()
+{
+    CommandSyntax syntax = vantrel::syntax();
+    syntax.options = {{u"guest"_s, u"NAME"_s, u"For whom."_s}};
+    return syntax;
+}
+
 class CommandArgumentsTest : public testing::Test {
 protected:
     [[nodiscard]] std::expected<CommandArguments, ExitStatus> parse(const QStringList &arguments,
@@ -145,6 +152,19 @@ TEST_F(CommandArgumentsTest, HelpWithoutSwitchesOrWordsIsShort)
               {.command = u"rest"_s, .description = u"Does nothing."_s, .switches = {}, .required = {}, .repeated = {}})
             .has_value());
     EXPECT_EQ(results_.text(), u"Usage: vantrel rest\n\nDoes nothing.\n\n  --help  Show this help.\n"_s);
+}
+
+TEST_F(CommandArgumentsTest, AnOptionHasAValue)
+{
+    for (const QStringList &option : {QStringList{u"--guest"_s, u"Ann"_s}, QStringList{u"--guest=Ann"_s}}) {
+        const auto parsed = parse(option + QStringList{u"soup"_s, u"pan"_s}, syntaxWithOption());
+        ASSERT_TRUE(parsed);
+        EXPECT_EQ(parsed->value(u"guest"_s), u"Ann"_s);
+        EXPECT_EQ(parsed->words, (QStringList{u"soup"_s, u"pan"_s}));
+    }
+    EXPECT_EQ(parse({u"soup"_s, u"pan"_s}, syntaxWithOption())->value(u"guest"_s), std::nullopt);
+    EXPECT_EQ(parse({u"--guest="_s, u"soup"_s, u"pan"_s}, syntaxWithOption())->value(u"guest"_s), QString());
+    EXPECT_EQ(parse({u"soup"_s, u"pan"_s, u"--guest"_s}, syntaxWithOption()).error(), ExitStatus::wrongUsage);
 }
 
 } // namespace

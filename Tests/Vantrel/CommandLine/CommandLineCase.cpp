@@ -20,6 +20,7 @@ CommandLineCase::Running::Running(const QStringList &arguments, CommandLineCase 
                .browserData = *owner.browserData,
                .reader = owner.reader,
                .app = owner.app,
+               .launchers = owner.launchers,
                .savedStatePath = owner.planted.folder.path(u"profiles.json"_s),
                .workingDirectory = owner.planted.folder.path(),
                .output = output_}

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Tests/Fakes/FakeAppProcess.h"
+#include "Tests/Fakes/FakeLauncherProgram.h"
 #include "Tests/Vantrel/CommandLine/TemporaryStream.h"
 #include "Tests/Vantrel/PlantedBrowsers.h"
 #include "Vantrel/CommandLine/CommandContext.h"
@@ -80,6 +81,7 @@ protected:
     const BrowserData *browserData = &planted.data;
     ProfileReader reader;
     FakeAppProcess app;
+    FakeLauncherProgram launchers;
 };
 
 } // namespace vantrel::test

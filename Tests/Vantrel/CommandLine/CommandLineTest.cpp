@@ -32,8 +32,8 @@ TEST_F(CommandLineTest, TheOverviewNamesEveryCommand)
         if (line.startsWith("  "_L1))
             commands.append(line.simplified().section(u' ', 0, 0));
     }
-    EXPECT_EQ(commands,
-              (QStringList{u"list"_s, u"open"_s, u"link"_s, u"doctor"_s, u"settings"_s, u"menu"_s, u"quit"_s}));
+    EXPECT_EQ(commands, (QStringList{u"list"_s, u"open"_s, u"link"_s, u"launcher"_s, u"doctor"_s, u"settings"_s,
+                                     u"menu"_s, u"quit"_s}));
     EXPECT_EQ(run({u"-h"_s}), overview);
     EXPECT_EQ(run({u"help"_s}), overview);
 }
@@ -52,7 +52,7 @@ TEST_F(CommandLineTest, TheHelpSaysWhatACommandTakes)
 {
     const std::vector<std::pair<QString, QString>> rows{
         {u"list"_s, u"Usage: vantrel list [--json] [--all]"_s},
-        {u"open"_s, u"Usage: vantrel open [--dry-run] PROFILE [URL…]"_s},
+        {u"open"_s, u"Usage: vantrel open [--dry-run] [--alert] PROFILE [URL…]"_s},
         {u"link"_s, u"Usage: vantrel link PROFILE [URL…]"_s},
         {u"doctor"_s, u"Usage: vantrel doctor [--json]"_s},
     };

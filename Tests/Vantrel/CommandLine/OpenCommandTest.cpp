@@ -172,6 +172,29 @@ TEST_F(OpenCommandTest, HiddenProfilesCanBeOpened)
     EXPECT_EQ(planted.workspace.openings().size(), 1);
 }
 
+TEST_F(OpenCommandTest, AFailureIsHandedToTheAppWithItsLinksWhereNobodyReadsMessages)
+{
+    const QString gone = u"vantrel://?browserBundleIdentifier=com.google.Chrome&profileName=Gone"_s;
+    const QString whole = gone + u"&url=https://a.example/&url=https://example.com/?q%3D1"_s;
+    const QStringList words{u"open"_s, u"--alert"_s, gone + u"&url=https://a.example/"_s, u"https://example.com/?q=1"_s,
+                            u"mailto:x"_s};
+    // Started when it doesn't run; either way the command has failed.
+    EXPECT_EQ(run(words).status, ExitStatus::failed);
+    EXPECT_EQ(app.takeCalls(), QStringList({u"send open "_s + whole, u"start open "_s + whole}));
+    app.setRunning(true);
+    EXPECT_EQ(run(words).status, ExitStatus::failed);
+    EXPECT_EQ(app.takeCalls(), QStringList(u"send open "_s + whole));
+}
+
+TEST_F(OpenCommandTest, TheAppIsLeftAloneWhenAllGoesWellOrNothingWasSaidOfIt)
+{
+    const QString work = u"vantrel://?browserBundleIdentifier=com.google.Chrome&profileName=Work"_s;
+    EXPECT_EQ(run({u"open"_s, u"--alert"_s, work}), done());
+    EXPECT_EQ(run({u"open"_s, work + u"x"_s}).status, ExitStatus::failed);
+    EXPECT_EQ(run({u"open"_s, u"--alert"_s, u"Nobody"_s}).status, ExitStatus::failed);
+    EXPECT_EQ(app.takeCalls(), QStringList());
+}
+
 TEST_F(OpenCommandTest, AnUnknownProfileIsNotOpened)
 {
     EXPECT_EQ(run({u"open"_s, u"Chrome – W"_s, link}),

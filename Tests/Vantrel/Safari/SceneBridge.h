@@ -103,7 +103,7 @@ public:
     explicit SceneRunningApplications(QString path) : path_(std::move(path)) {}
 
     [[nodiscard]] bool isRunning(const QString & /*bundleID*/) const override { return Scene::read(path_).isRunning; }
-    void watch(const QStringList & /*bundleIDs*/, std::function<void(const QString &)> /*terminated*/) override {}
+    void watch(const QStringList & /*bundleIDs*/, Terminated /*terminated*/) override {}
 
 private:
     QString path_;

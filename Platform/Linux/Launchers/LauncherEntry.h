@@ -1,0 +1,38 @@
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+#include <QStringList>
+
+#include <optional>
+
+namespace vantrel {
+
+/// What a launcher's desktop entry says (freedesktop.org Desktop Entry Specification).
+struct LauncherEntry {
+    struct Action {
+        QString name;
+        /// The program, then its arguments.
+        QStringList command;
+    };
+
+    QString name;
+    QString comment;
+    /// The icon's name in the theme.
+    QString icon;
+    /// The program, then its arguments; dropped links follow them.
+    QStringList command;
+    std::optional<Action> privateWindow = std::nullopt;
+    QString profileID;
+
+    /// The file's content.
+    [[nodiscard]] QByteArray text() const;
+};
+
+/// One argument as the Exec key takes it: quoted, its percent signs doubled.
+[[nodiscard]] QString execWord(const QString &argument);
+
+/// A value as a key file takes it. What would end the line, and a blank that it begins with, are written as escapes.
+[[nodiscard]] QString keyFileValue(const QString &value);
+
+} // namespace vantrel
