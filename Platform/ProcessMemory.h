@@ -1,15 +1,13 @@
 #pragma once
 
-namespace vantrel {
-
 /// The memory of a program that waits in the background for weeks.
-namespace ProcessMemory {
+namespace vantrel::ProcessMemory {
 
-/// Has what is freed go back to the system rather than wait for the next busy moment. Call first of all.
+/// Has what is freed go back to the system rather than wait for the next busy moment. Call first of all, before there
+/// are other threads.
 void keepSmall();
 
 /// Gives back what is free now; for the end of a busy moment. From any thread.
 void giveBack();
 
-} // namespace ProcessMemory
-} // namespace vantrel
+} // namespace vantrel::ProcessMemory

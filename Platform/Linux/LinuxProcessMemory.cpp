@@ -13,9 +13,11 @@ constexpr int ownMappingFrom = 64 * 1024;
 void ProcessMemory::keepSmall()
 {
     // One heap for all threads: those that read profiles end soon and would each leave a mostly empty one behind.
+    // NOLINTBEGIN(concurrency-mt-unsafe): called before there are other threads.
     mallopt(M_ARENA_MAX, 1);
     mallopt(M_MMAP_THRESHOLD, ownMappingFrom);
     mallopt(M_TRIM_THRESHOLD, ownMappingFrom);
+    // NOLINTEND(concurrency-mt-unsafe)
 }
 
 void ProcessMemory::giveBack()
