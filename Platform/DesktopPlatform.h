@@ -9,6 +9,7 @@
 #include "Platform/SafariPorts.h"
 #include "Platform/StatusItem.h"
 #include "Platform/Updater.h"
+#include "Platform/UserDefaults.h"
 
 #include <memory>
 #include <optional>
@@ -21,6 +22,7 @@ struct DesktopPlatform {
     std::unique_ptr<ApplicationInstance> instance;
     std::unique_ptr<RunningApplications> runningApplications;
     std::unique_ptr<ActivationPolicy> activationPolicy;
+    std::unique_ptr<UserDefaults> userDefaults;
     /// Null where no panel draws menus.
     std::unique_ptr<StatusItem> statusItem;
     /// Null where the system grants access to folders in no such way.

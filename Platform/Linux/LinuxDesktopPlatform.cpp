@@ -3,6 +3,7 @@
 #include "Platform/Linux/Instance/InstanceSocketPath.h"
 #include "Platform/Linux/Instance/LinuxApplicationInstance.h"
 #include "Platform/Linux/LinuxActivationPolicy.h"
+#include "Platform/Linux/LinuxUserDefaults.h"
 #include "Platform/Linux/Processes/BrowserProcessesThread.h"
 #include "Platform/Linux/StandardErrorLog.h"
 #include "Platform/Linux/StatusItem/StatusNotifierItem.h"
@@ -36,6 +37,8 @@ DesktopPlatform DesktopPlatform::create(Platform &platform)
         .runningApplications =
             std::make_unique<BrowserProcessesThread>(*platform.browserData, bus, SingletonContext::current()),
         .activationPolicy = std::make_unique<LinuxActivationPolicy>(),
+        .userDefaults =
+            std::make_unique<LinuxUserDefaults>(LinuxUserDefaults::defaultPath(Environment::from(variables))),
         .statusItem = std::make_unique<StatusNotifierItem>(bus, *platform.activation, Environment::from(variables)),
         .folderAccess = nullptr,
         .updater = nullptr,

@@ -73,9 +73,11 @@ int PopupMenu::iconPixels() const
 
 void PopupMenu::build()
 {
-    clear();
+    const QList<QAction *> former = actions();
     for (const MenuItem &item : rows_())
         append(item);
+    // Only now: a menu that has shrunk away from below the pointer meanwhile may lose the focus, and close with it.
+    qDeleteAll(former);
 }
 
 void PopupMenu::append(const MenuItem &item)

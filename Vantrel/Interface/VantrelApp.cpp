@@ -2,6 +2,7 @@
 
 #include "Platform/ProcessMemory.h"
 #include "Vantrel/Interface/SystemTrayIcon.h"
+#include "Vantrel/KeyEquivalent.h"
 #include "Vantrel/Pictures/TrayImage.h"
 #include "Vantrel/ProfileMenu.h"
 #include "Vantrel/SavedState.h"
@@ -12,7 +13,6 @@
 #include <QGuiApplication>
 #include <QInputEvent>
 #include <QMessageBox>
-#include <QSettings>
 #include <QStandardPaths>
 #include <QTimer>
 
@@ -34,12 +34,6 @@ ProfileReader profileReader()
     return reader;
 }
 
-QString defaultsPath()
-{
-    return QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) +
-           "/app.kestrune.Vantrel/defaults.ini"_L1;
-}
-
 std::optional<Safari::Automation> safariAutomation(DesktopPlatform &desktop, Safari::Languages &languages, Clock &clock)
 {
     if (!desktop.safari)
@@ -50,9 +44,8 @@ std::optional<Safari::Automation> safariAutomation(DesktopPlatform &desktop, Saf
 }
 
 /// Once, ever: it would come at each login.
-void tellHomeless()
+void tellHomeless(UserDefaults &defaults)
 {
-    QSettings defaults(defaultsPath(), QSettings::IniFormat);
     const QString key = u"toldThatThereIsNoTray"_s;
     if (defaults.value(key).toBool())
         return;
@@ -85,10 +78,15 @@ VantrelApp::VantrelApp(Platform &platform, DesktopPlatform &desktop)
                  profileReader()),
       opener_(store_, {*platform.workspace, alert_, *desktop.log, safari_ ? &safari_->windows() : nullptr}),
       links_(store_, discovery_, opener_),
+      keyboard_(DesktopKeyboard::create(
+          *platform.activation,
+          [this](std::uint32_t keyCode, std::uint32_t modifiers) { return descriptionOf(keyCode, modifiers); })),
+      shortcuts_({*desktop.userDefaults, *keyboard_.hotKeys, *keyboard_.layout}),
+      hotkeys_(store_, opener_, shortcuts_),
       settingsWindows_(*desktop.activationPolicy),
       popup_([this] { return menu(); }),
       tray_({desktop.statusItem.get(), [this] { return std::make_unique<SystemTrayIcon>(popup_); }, *desktop.log,
-             tellHomeless, [this] { startSoon(); }})
+             [this] { tellHomeless(*desktop_.userDefaults); }, [this] { startSoon(); }})
 {
     connect(&store_, &ProfileStore::changed, this, &VantrelApp::takeStoreChange);
     // Reading and drawing leave much free memory behind.
@@ -97,6 +95,11 @@ VantrelApp::VantrelApp(Platform &platform, DesktopPlatform &desktop)
         // The panel asks for all icons at once.
         connect(&icons_, &ProfileIconCache::prepared, this, [this] { desktop_.statusItem->updateMenu(); });
     }
+    // A menu has the keyboard to itself. That of a panel is another program's, and can't be helped.
+    connect(&popup_, &QMenu::aboutToShow, this, [this] { shortcuts_.setMenuOpen(true); });
+    connect(&popup_, &QMenu::aboutToHide, this, [this] { shortcuts_.setMenuOpen(false); });
+    connect(&shortcuts_, &KeyboardShortcuts::shortcutByNameDidChange, this, &VantrelApp::updateMenus);
+    keyboard_.layout->onChange([this] { updateMenus(); });
 }
 
 std::expected<ApplicationInstance::Role, PlatformError> VantrelApp::start(const InstanceRequest &first)
@@ -106,6 +109,7 @@ std::expected<ApplicationInstance::Role, PlatformError> VantrelApp::start(const 
         return role;
     desktop_.activationPolicy->becomeAccessory();
     tray_.start(statusItemContent());
+    hotkeys_.start();
     // A plain start shows the symbol and nothing else.
     if (first.kind != InstanceRequest::Kind::activate)
         take(first);
@@ -180,6 +184,10 @@ Menu VantrelApp::menu()
         .quit = [] { QCoreApplication::quit(); },
         .icon = [this](const Profile &profile, int pixels) { return icons_.image(iconOf(profile), pixels); },
         .iconPNG = [this](const Profile &profile, int pixels) { return icons_.png(iconOf(profile), pixels); },
+        .shortcut =
+            [this](const Profile &profile) {
+                return keyEquivalent(shortcuts_.getShortcut(ProfileHotkeys::shortcutName(profile)), *keyboard_.layout);
+            },
     };
     return profileMenu(store_, actions);
 }
@@ -213,6 +221,26 @@ void VantrelApp::prepareIcons()
     }
     icons_.prepare(icons, tray_.isInPanel() ? ProfileIconCache::Sizes{.png = StatusItem::menuIconPixels}
                                             : ProfileIconCache::Sizes{.image = popup_.iconPixels()});
+}
+
+void VantrelApp::updateMenus()
+{
+    popup_.updateRows();
+    if (desktop_.statusItem)
+        desktop_.statusItem->updateMenu();
+}
+
+QString VantrelApp::descriptionOf(std::uint32_t keyCode, std::uint32_t modifiers) const
+{
+    const Shortcut wanted{keyCode, modifiers};
+    for (const Profile &profile : store_.profiles()) {
+        if (shortcuts_.getShortcut(ProfileHotkeys::shortcutName(profile)) == wanted) {
+            //: What a global shortcut does, where the desktop lets the user choose its keys. The placeholder is a
+            //: browser's and a profile's name.
+            return Texts::tr("Open %1").arg(store_.catalogue().title(profile));
+        }
+    }
+    return u"Vantrel"_s;
 }
 
 ProfileIcon VantrelApp::iconOf(const Profile &profile) const

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "KeyboardShortcuts/DesktopKeyboard.h"
+#include "KeyboardShortcuts/KeyboardShortcuts.h"
 #include "Platform/DesktopPlatform.h"
 #include "Vantrel/DiscoveryRuns.h"
 #include "Vantrel/Interface/AlertBox.h"
@@ -7,6 +9,7 @@
 #include "Vantrel/Interface/SettingsWindow.h"
 #include "Vantrel/LinkQueue.h"
 #include "Vantrel/Pictures/ProfileIconCache.h"
+#include "Vantrel/ProfileHotkeys.h"
 #include "Vantrel/ProfileOpener.h"
 #include "Vantrel/ProfileStore.h"
 #include "Vantrel/Safari/Automation.h"
@@ -43,6 +46,8 @@ private:
     [[nodiscard]] StatusItem::Content statusItemContent();
     void takeStoreChange();
     void prepareIcons();
+    void updateMenus();
+    [[nodiscard]] QString descriptionOf(std::uint32_t keyCode, std::uint32_t modifiers) const;
 
     Platform &platform_;
     DesktopPlatform &desktop_;
@@ -55,6 +60,9 @@ private:
     AlertBox alert_;
     ProfileOpener opener_;
     LinkQueue links_;
+    DesktopKeyboard keyboard_;
+    KeyboardShortcuts shortcuts_;
+    ProfileHotkeys hotkeys_;
     ProfileIconCache icons_;
     SettingsModel settingsModel_;
     SettingsWindows settingsWindows_;
