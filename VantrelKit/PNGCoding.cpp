@@ -8,7 +8,7 @@ namespace vantrel {
 namespace {
 
 /// As Qt has it for pictures of all kinds.
-constexpr qint64 maximumBytes = 128 * 1024 * 1024;
+constexpr qint64 maximumBytes = qint64{128} * 1024 * 1024;
 constexpr qint64 bytesPerPixel = 4;
 
 /// What QImage calls ARGB32 is blue, green, red, alpha in this order on little-endian machines.

@@ -3,11 +3,9 @@
 #include <QByteArray>
 #include <QImage>
 
-namespace vantrel {
-
 /// PNG files by libpng itself, which Qt uses as well: to find out what reads or writes one, Qt loads its plugins for
 /// all other formats first, and keeps them. From any thread.
-namespace PNGCoding {
+namespace vantrel::PNGCoding {
 
 /// Whether the file starts as every PNG file does (ISO/IEC 15948).
 [[nodiscard]] bool isPNG(QByteArrayView file);
@@ -18,5 +16,4 @@ namespace PNGCoding {
 /// Empty for a picture without pixels. Written with little effort: the files are small and soon read again.
 [[nodiscard]] QByteArray encoded(const QImage &picture);
 
-} // namespace PNGCoding
-} // namespace vantrel
+} // namespace vantrel::PNGCoding
