@@ -73,8 +73,12 @@ class AppSession(DesktopSession):
 
     def start_app(self) -> int:
         """Starts the app and waits until it has found all profiles; its process."""
+        before = len(self.app_log_text())
         self.launch_app()
-        return self.wait_for_app()
+        pid = self.wait_for_app()
+        # What an app has saved before is there all the time; this one listens to requests when it reads profiles itself.
+        wait_for(lambda: " profiles\n" in self.app_log_text()[before:], "the app to read profiles")
+        return pid
 
     def wait_for_app(self) -> int:
         """Waits until there is one app, and all profiles are saved; its process."""

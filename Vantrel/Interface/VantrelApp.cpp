@@ -98,8 +98,8 @@ VantrelApp::VantrelApp(Platform &platform, DesktopPlatform &desktop)
     // A menu has the keyboard to itself. That of a panel is another program's, and can't be helped.
     connect(&popup_, &QMenu::aboutToShow, this, [this] { shortcuts_.setMenuOpen(true); });
     connect(&popup_, &QMenu::aboutToHide, this, [this] { shortcuts_.setMenuOpen(false); });
-    connect(&shortcuts_, &KeyboardShortcuts::shortcutByNameDidChange, this, &VantrelApp::updateMenus);
-    keyboard_.layout->onChange([this] { updateMenus(); });
+    connect(&shortcuts_, &KeyboardShortcuts::shortcutByNameDidChange, this, &VantrelApp::updateShortcutsInMenus);
+    keyboard_.layout->onChange([this] { updateShortcutsInMenus(); });
 }
 
 std::expected<ApplicationInstance::Role, PlatformError> VantrelApp::start(const InstanceRequest &first)
@@ -184,10 +184,7 @@ Menu VantrelApp::menu()
         .quit = [] { QCoreApplication::quit(); },
         .icon = [this](const Profile &profile, int pixels) { return icons_.image(iconOf(profile), pixels); },
         .iconPNG = [this](const Profile &profile, int pixels) { return icons_.png(iconOf(profile), pixels); },
-        .shortcut =
-            [this](const Profile &profile) {
-                return keyEquivalent(shortcuts_.getShortcut(ProfileHotkeys::shortcutName(profile)), *keyboard_.layout);
-            },
+        .shortcut = [this](const Profile &profile) { return keyEquivalentOf(profile); },
     };
     return profileMenu(store_, actions);
 }
@@ -223,11 +220,24 @@ void VantrelApp::prepareIcons()
                                             : ProfileIconCache::Sizes{.image = popup_.iconPixels()});
 }
 
-void VantrelApp::updateMenus()
+void VantrelApp::updateShortcutsInMenus()
 {
+    QHash<QString, QKeySequence> keys;
+    for (const Profile &profile : store_.profiles()) {
+        if (const QKeySequence key = keyEquivalentOf(profile); !key.isEmpty())
+            keys.insert(profile.id(), key);
+    }
+    // Another keyboard is news of the layout as well, and with most of them nothing looks different.
+    if (keys == std::exchange(shortcutsInMenus_, keys))
+        return;
     popup_.updateRows();
     if (desktop_.statusItem)
         desktop_.statusItem->updateMenu();
+}
+
+QKeySequence VantrelApp::keyEquivalentOf(const Profile &profile) const
+{
+    return keyEquivalent(shortcuts_.getShortcut(ProfileHotkeys::shortcutName(profile)), *keyboard_.layout);
 }
 
 QString VantrelApp::descriptionOf(std::uint32_t keyCode, std::uint32_t modifiers) const

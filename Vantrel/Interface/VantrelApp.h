@@ -46,7 +46,8 @@ private:
     [[nodiscard]] StatusItem::Content statusItemContent();
     void takeStoreChange();
     void prepareIcons();
-    void updateMenus();
+    void updateShortcutsInMenus();
+    [[nodiscard]] QKeySequence keyEquivalentOf(const Profile &profile) const;
     [[nodiscard]] QString descriptionOf(std::uint32_t keyCode, std::uint32_t modifiers) const;
 
     Platform &platform_;
@@ -63,6 +64,8 @@ private:
     DesktopKeyboard keyboard_;
     KeyboardShortcuts shortcuts_;
     ProfileHotkeys hotkeys_;
+    /// By the profiles' ids; only of those that have one.
+    QHash<QString, QKeySequence> shortcutsInMenus_;
     ProfileIconCache icons_;
     SettingsModel settingsModel_;
     SettingsWindows settingsWindows_;
