@@ -76,7 +76,7 @@ class AppSession(DesktopSession):
         before = len(self.app_log_text())
         self.launch_app()
         pid = self.wait_for_app()
-        # What an app has saved before is there all the time; this one listens to requests when it reads profiles itself.
+        # What a former app has saved was there before; this one takes requests when it reads profiles itself.
         wait_for(lambda: " profiles\n" in self.app_log_text()[before:], "the app to read profiles")
         return pid
 
