@@ -13,8 +13,8 @@ bool isPlain(QChar character)
     return isLetterOrDigit || u"-._/:@+,%"_s.contains(character);
 }
 
-/// GLib looks for the program before it makes one percent sign of two, and the specification allows no equals sign in
-/// the program's path. As an argument it may hold either.
+/// GLib looks for the program before it makes one percent sign of two, and the format of entries allows no equals sign
+/// in the program's path. As an argument it may hold either.
 bool needsShell(const QString &program)
 {
     return program.contains(u'%') || program.contains(u'=');
