@@ -34,17 +34,17 @@ class StandIn:
 
     def __init__(self, home: Home) -> None:
         compiler = require(Path("/usr/bin/cc"), "install the packages gcc and libc6-dev")
-        self.pipe = home.root / "record"
-        self.pipe.unlink(missing_ok=True)
-        os.mkfifo(self.pipe)
+        self._pipe = home.root / "record"
+        self._pipe.unlink(missing_ok=True)
+        os.mkfifo(self._pipe)
         program = home.program(BROWSER)
         program.unlink(missing_ok=True)
-        record = f'-DRECORD="{self.pipe}"'
+        record = f'-DRECORD="{self._pipe}"'
         subprocess.run([compiler, "-O2", "-static", record, "-o", program, HERE / "stand_in_browser.c"], check=True)
 
     def measure_start(self, process: Process, expected_argument: str) -> Sample:
         """From before the command's start to the stand-in's first look at the clock; returns when both have ended."""
-        reader = os.open(self.pipe, os.O_RDONLY | os.O_NONBLOCK)
+        reader = os.open(self._pipe, os.O_RDONLY | os.O_NONBLOCK)
         try:
             started = time.monotonic_ns()
             child = process.spawn()
