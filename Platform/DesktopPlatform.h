@@ -4,10 +4,12 @@
 #include "Platform/ApplicationInstance.h"
 #include "Platform/FolderAccess.h"
 #include "Platform/LogSink.h"
+#include "Platform/LoginItem.h"
 #include "Platform/Platform.h"
 #include "Platform/RunningApplications.h"
 #include "Platform/SafariPorts.h"
 #include "Platform/StatusItem.h"
+#include "Platform/SymbolImages.h"
 #include "Platform/Updater.h"
 #include "Platform/UserDefaults.h"
 
@@ -23,6 +25,10 @@ struct DesktopPlatform {
     std::unique_ptr<RunningApplications> runningApplications;
     std::unique_ptr<ActivationPolicy> activationPolicy;
     std::unique_ptr<UserDefaults> userDefaults;
+    /// Null where the program can't be started with the session.
+    std::unique_ptr<LoginItem> loginItem;
+    /// Null where the program's own drawings are shown.
+    std::unique_ptr<SymbolImages> symbols;
     /// Null where no panel draws menus.
     std::unique_ptr<StatusItem> statusItem;
     /// Null where the system grants access to folders in no such way.

@@ -39,6 +39,8 @@ DesktopPlatform DesktopPlatform::create(Platform &platform)
         .activationPolicy = std::make_unique<LinuxActivationPolicy>(),
         .userDefaults =
             std::make_unique<LinuxUserDefaults>(LinuxUserDefaults::defaultPath(Environment::from(variables))),
+        .loginItem = nullptr,
+        .symbols = nullptr,
         .statusItem = std::make_unique<StatusNotifierItem>(bus, *platform.activation, Environment::from(variables)),
         .folderAccess = nullptr,
         .updater = nullptr,
