@@ -61,6 +61,13 @@ void CarbonKeyboardShortcuts::unregisterShortcut(const Shortcut &shortcut)
     });
 }
 
+std::optional<std::uint32_t> CarbonKeyboardShortcuts::hotKeyId(const Shortcut &shortcut) const
+{
+    const auto found = std::ranges::find_if(
+        hotKeys_, [&](const auto &entry) { return entry.second.isRegistered && entry.second.shortcut == shortcut; });
+    return found == hotKeys_.end() ? std::nullopt : std::optional(found->first);
+}
+
 void CarbonKeyboardShortcuts::setListening(HotKeyPort::Listening listening)
 {
     listening_ = listening;

@@ -5,6 +5,7 @@
 
 #include <functional>
 #include <map>
+#include <optional>
 
 namespace vantrel {
 
@@ -26,6 +27,9 @@ public:
     void registerShortcut(const Shortcut &shortcut, Handler onKeyDown, Handler onKeyUp);
     /// Drops every registration of the shortcut.
     void unregisterShortcut(const Shortcut &shortcut);
+
+    /// The id under which the system watches the shortcut; none when it doesn't.
+    [[nodiscard]] std::optional<std::uint32_t> hotKeyId(const Shortcut &shortcut) const;
 
     /// What is to be heard from now on. Hotkeys are given back to the system while something else is heard; they keep
     /// their ids and return with `Listening::hotKeys`.

@@ -44,6 +44,12 @@ public:
     /// Stores it and has the system watch it; without one, the name loses what it has.
     void setShortcut(const std::optional<Shortcut> &shortcut, const Name &name);
 
+    /// The id under which the system watches the shortcut; none when it doesn't.
+    [[nodiscard]] std::optional<std::uint32_t> hotKeyId(const Shortcut &shortcut) const
+    {
+        return registry_.hotKeyId(shortcut);
+    }
+
     /// Each adds an action, called whenever the name's shortcut goes down or up; actions are never removed.
     void onKeyDown(const Name &name, Action action);
     void onKeyUp(const Name &name, Action action);

@@ -7,6 +7,9 @@ class AccessibilityTrust {
 public:
     virtual ~AccessibilityTrust() = default;
 
+    /// Asks nobody.
+    [[nodiscard]] virtual bool isTrusted() const = 0;
+
     /// When not, the system asks the user, whose answer comes too late for this call.
     [[nodiscard]] virtual bool isTrustedElseAsk() = 0;
 };

@@ -10,6 +10,7 @@
 #include "Platform/SafariPorts.h"
 #include "Platform/StatusItem.h"
 #include "Platform/SymbolImages.h"
+#include "Platform/SystemConventions.h"
 #include "Platform/Updater.h"
 #include "Platform/UserDefaults.h"
 
@@ -35,6 +36,7 @@ struct DesktopPlatform {
     std::unique_ptr<FolderAccess> folderAccess;
     /// Null where the system itself keeps programs up to date.
     std::unique_ptr<Updater> updater;
+    SystemConventions conventions;
     /// None where there is no Safari.
     std::optional<SafariPorts> safari;
 

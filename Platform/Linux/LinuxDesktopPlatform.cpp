@@ -1,9 +1,11 @@
 #include "Platform/DesktopPlatform.h"
+#include "Platform/Linux/AutostartEntry.h"
 #include "Platform/Linux/Environment.h"
 #include "Platform/Linux/Instance/InstanceSocketPath.h"
 #include "Platform/Linux/Instance/LinuxApplicationInstance.h"
 #include "Platform/Linux/LinuxActivationPolicy.h"
 #include "Platform/Linux/LinuxUserDefaults.h"
+#include "Platform/Linux/OwnPrograms.h"
 #include "Platform/Linux/Processes/BrowserProcessesThread.h"
 #include "Platform/Linux/StandardErrorLog.h"
 #include "Platform/Linux/StatusItem/StatusNotifierItem.h"
@@ -39,11 +41,13 @@ DesktopPlatform DesktopPlatform::create(Platform &platform)
         .activationPolicy = std::make_unique<LinuxActivationPolicy>(),
         .userDefaults =
             std::make_unique<LinuxUserDefaults>(LinuxUserDefaults::defaultPath(Environment::from(variables))),
-        .loginItem = nullptr,
+        .loginItem = std::make_unique<AutostartEntry>(AutostartEntry::Places::from(variables),
+                                                      commandProgram(variables.value(u"PATH"_s))),
         .symbols = nullptr,
         .statusItem = std::make_unique<StatusNotifierItem>(bus, *platform.activation, Environment::from(variables)),
         .folderAccess = nullptr,
         .updater = nullptr,
+        .conventions = {.linkCommand = u"xdg-open"_s, .showsKeySigns = false},
         .safari = std::nullopt,
     };
 }

@@ -14,6 +14,8 @@ public:
     /// How often the user was asked.
     [[nodiscard]] int questions() const { return questions_; }
 
+    [[nodiscard]] bool isTrusted() const override { return isTrusted_; }
+
     [[nodiscard]] bool isTrustedElseAsk() override
     {
         questions_ += isTrusted_ ? 0 : 1;

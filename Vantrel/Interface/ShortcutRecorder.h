@@ -37,6 +37,9 @@ public:
     /// What the shortcut opens, which is said to those who can't see the row: a profile's name.
     void setSubject(const QString &subject);
 
+    /// What takes the focus, in order.
+    [[nodiscard]] QList<QWidget *> controls() const { return {main_, remove_}; }
+
     /// Shows everything anew: also when the layout of the keyboard has changed.
     void refresh();
 

@@ -66,9 +66,10 @@ void tellHomeless(UserDefaults &defaults)
 
 } // namespace
 
-VantrelApp::VantrelApp(Platform &platform, DesktopPlatform &desktop)
+VantrelApp::VantrelApp(Platform &platform, DesktopPlatform &desktop, QString build)
     : platform_(platform),
       desktop_(desktop),
+      build_(std::move(build)),
       store_(SavedState::defaultPath(), *desktop.log),
       safariLanguages_(SafariMenus::appResources(), SafariMenus::frameworkResources()),
       safari_(safariAutomation(desktop, safariLanguages_, clock_)),
@@ -83,6 +84,9 @@ VantrelApp::VantrelApp(Platform &platform, DesktopPlatform &desktop)
           [this](std::uint32_t keyCode, std::uint32_t modifiers) { return descriptionOf(keyCode, modifiers); })),
       shortcuts_({*desktop.userDefaults, *keyboard_.hotKeys, *keyboard_.layout}),
       hotkeys_(store_, opener_, shortcuts_),
+      shortcutTexts_(shortcuts_, keyboard_, desktop.conventions),
+      launchers_({*desktop.activationPolicy, alert_, *desktop.log}),
+      symbols_(desktop.symbols.get()),
       settingsWindows_(*desktop.activationPolicy),
       popup_([this] { return menu(); }),
       tray_({desktop.statusItem.get(), [this] { return std::make_unique<SystemTrayIcon>(popup_); }, *desktop.log,
@@ -99,7 +103,13 @@ VantrelApp::VantrelApp(Platform &platform, DesktopPlatform &desktop)
     connect(&popup_, &QMenu::aboutToShow, this, [this] { shortcuts_.setMenuOpen(true); });
     connect(&popup_, &QMenu::aboutToHide, this, [this] { shortcuts_.setMenuOpen(false); });
     connect(&shortcuts_, &KeyboardShortcuts::shortcutByNameDidChange, this, &VantrelApp::updateShortcutsInMenus);
-    keyboard_.layout->onChange([this] { updateShortcutsInMenus(); });
+    keyboard_.layout->onChange([this] { takeKeyboardChange(); });
+    keyboard_.hotKeys->onChange([this] { takeKeyboardChange(); });
+}
+
+VantrelApp::~VantrelApp()
+{
+    delete settingsWindow_;
 }
 
 std::expected<ApplicationInstance::Role, PlatformError> VantrelApp::start(const InstanceRequest &first)
@@ -159,11 +169,40 @@ void VantrelApp::showSettings(SettingsModel::Tab tab)
 {
     settingsModel_.setTab(tab);
     if (!settingsWindow_)
-        settingsWindow_ = std::make_unique<SettingsWindow>(settingsWindows_);
+        settingsWindow_ = makeSettingsWindow();
     settingsWindow_->show();
     settingsWindow_->raise();
     settingsWindow_->activateWindow();
     desktop_.activationPolicy->activate();
+}
+
+SettingsWindow *VantrelApp::makeSettingsWindow()
+{
+    const ProfilesSettings::Environment profiles{
+        .store = store_,
+        .discovery = discovery_,
+        .opener = opener_,
+        .shortcuts = shortcuts_,
+        .hotkeys = hotkeys_,
+        .shortcutTexts = shortcutTexts_,
+        .icons = icons_,
+        .launchers = launchers_,
+        .browserData = *platform_.browserData,
+        .symbols = symbols_,
+    };
+    const GeneralSettings::Environment general{
+        .store = store_,
+        .alert = alert_,
+        .conventions = desktop_.conventions,
+        .accessibility = desktop_.safari ? desktop_.safari->accessibility.get() : nullptr,
+        .loginItem = desktop_.loginItem.get(),
+        .updater = desktop_.updater.get(),
+    };
+    auto *window = new SettingsWindow({settingsModel_, settingsWindows_, profiles, general, build_});
+    window->setAttribute(Qt::WA_DeleteOnClose);
+    // Drawing it has left much free memory behind.
+    connect(window, &QObject::destroyed, this, [] { ProcessMemory::giveBack(); });
+    return window;
 }
 
 void VantrelApp::startSoon()
@@ -218,6 +257,13 @@ void VantrelApp::prepareIcons()
     }
     icons_.prepare(icons, tray_.isInPanel() ? ProfileIconCache::Sizes{.png = StatusItem::menuIconPixels}
                                             : ProfileIconCache::Sizes{.image = popup_.iconPixels()});
+}
+
+void VantrelApp::takeKeyboardChange()
+{
+    updateShortcutsInMenus();
+    if (settingsWindow_)
+        settingsWindow_->takeKeyboardChange();
 }
 
 void VantrelApp::updateShortcutsInMenus()

@@ -6,13 +6,15 @@
 #include "Vantrel/DiscoveryRuns.h"
 #include "Vantrel/Interface/AlertBox.h"
 #include "Vantrel/Interface/PopupMenu.h"
-#include "Vantrel/Interface/SettingsWindow.h"
+#include "Vantrel/Interface/ProfileLaunchers.h"
+#include "Vantrel/Interface/Settings/SettingsWindow.h"
 #include "Vantrel/LinkQueue.h"
 #include "Vantrel/Pictures/ProfileIconCache.h"
 #include "Vantrel/ProfileHotkeys.h"
 #include "Vantrel/ProfileOpener.h"
 #include "Vantrel/ProfileStore.h"
 #include "Vantrel/Safari/Automation.h"
+#include "Vantrel/Settings/ShortcutTexts.h"
 #include "Vantrel/SettingsModel.h"
 #include "Vantrel/TimerClock.h"
 #include "Vantrel/TrayPresence.h"
@@ -25,9 +27,9 @@ namespace vantrel {
 /// The running app: all its parts, each given what it needs. Main thread only.
 class VantrelApp final : public QObject {
 public:
-    /// Both must outlive it.
-    VantrelApp(Platform &platform, DesktopPlatform &desktop);
-    ~VantrelApp() override = default;
+    /// The ports must outlive it. `build` is the number of this build of the version.
+    VantrelApp(Platform &platform, DesktopPlatform &desktop, QString build);
+    ~VantrelApp() override;
     Q_DISABLE_COPY_MOVE(VantrelApp)
 
     /// Becomes the one instance and does what is asked, or hands it to the one there is.
@@ -40,18 +42,21 @@ private:
     void act(const QString &action);
     void showMenu();
     void showSettings(SettingsModel::Tab tab);
+    [[nodiscard]] SettingsWindow *makeSettingsWindow();
     void startSoon();
     [[nodiscard]] Menu menu();
     [[nodiscard]] ProfileIcon iconOf(const Profile &profile) const;
     [[nodiscard]] StatusItem::Content statusItemContent();
     void takeStoreChange();
     void prepareIcons();
+    void takeKeyboardChange();
     void updateShortcutsInMenus();
     [[nodiscard]] QKeySequence keyEquivalentOf(const Profile &profile) const;
     [[nodiscard]] QString descriptionOf(std::uint32_t keyCode, std::uint32_t modifiers) const;
 
     Platform &platform_;
     DesktopPlatform &desktop_;
+    QString build_;
     ProfileStore store_;
     TimerClock clock_;
     Safari::Languages safariLanguages_;
@@ -67,9 +72,13 @@ private:
     /// By the profiles' ids; only of those that have one.
     QHash<QString, QKeySequence> shortcutsInMenus_;
     ProfileIconCache icons_;
+    ShortcutTexts shortcutTexts_;
+    ProfileLaunchers launchers_;
+    SymbolIcons symbols_;
     SettingsModel settingsModel_;
     SettingsWindows settingsWindows_;
-    std::unique_ptr<SettingsWindow> settingsWindow_;
+    /// Gone with its window: it holds a good part of what the program takes in memory.
+    QPointer<SettingsWindow> settingsWindow_;
     PopupMenu popup_;
     TrayPresence tray_;
 };

@@ -46,7 +46,7 @@ int main(int argc, char *argv[])
     QApplication::setQuitOnLastWindowClosed(false);
 
     DesktopPlatform desktop = DesktopPlatform::create(platform);
-    VantrelApp app(platform, desktop);
+    VantrelApp app(platform, desktop, QStringLiteral(VANTREL_BUILD));
     if (QGuiApplication::platformName() == "xcb"_L1)
         application.installEventFilter(&app);
     const auto role = app.start(first);

@@ -1,77 +1,22 @@
 #include "Platform/Linux/Launchers/LauncherEntry.h"
 
-#include <algorithm>
+#include "Platform/Linux/EntryText.h"
 
 using namespace Qt::StringLiterals;
 
 namespace vantrel {
-namespace {
-
-bool isPlain(QChar character)
-{
-    const bool isLetterOrDigit = character.unicode() < 0x80 && character.isLetterOrNumber();
-    return isLetterOrDigit || u"-._/:@+,%"_s.contains(character);
-}
-
-/// GLib looks for the program before it makes one percent sign of two, and the format of entries allows no equals sign
-/// in the program's path. As an argument it may hold either.
-bool needsShell(const QString &program)
-{
-    return program.contains(u'%') || program.contains(u'=');
-}
-
-QString commandLine(const QStringList &command)
-{
-    QStringList words;
-    if (needsShell(command.value(0)))
-        words = {u"sh"_s, u"-c"_s, execWord(u"exec \"$0\" \"$@\""_s)};
-    for (const QString &argument : command)
-        words.append(execWord(argument));
-    return words.join(u' ');
-}
-
-QString line(QLatin1StringView key, const QString &value)
-{
-    return key + u'=' + keyFileValue(value) + u'\n';
-}
-
-} // namespace
-
-QString execWord(const QString &argument)
-{
-    QString word = argument;
-    // A program's argument can't hold it.
-    word.remove(u'\0').replace(u'%', u"%%"_s);
-    if (!word.isEmpty() && std::ranges::all_of(word, isPlain))
-        return word;
-    word.replace(u'\\', u"\\\\"_s);
-    for (const QChar escaped : {u'"', u'`', u'$'})
-        word.replace(escaped, u'\\' + QString(escaped));
-    return u'"' + word + u'"';
-}
-
-QString keyFileValue(const QString &value)
-{
-    QString text = value;
-    text.remove(u'\0').replace(u'\\', u"\\\\"_s);
-    text.replace(u'\n', u"\\n"_s).replace(u'\r', u"\\r"_s).replace(u'\t', u"\\t"_s);
-    // Readers skip blanks before a value.
-    if (text.startsWith(u' '))
-        text.replace(0, 1, u"\\s"_s);
-    return text;
-}
 
 QByteArray LauncherEntry::text() const
 {
     // No type of http is claimed: a desktop without a default browser would take the launcher for one.
-    QString text = u"[Desktop Entry]\n"_s + line("Type"_L1, u"Application"_s) + line("Name"_L1, name) +
-                   line("Comment"_L1, comment) + line("Icon"_L1, icon) + line("TryExec"_L1, command.value(0)) +
-                   line("Exec"_L1, commandLine(command) + u" %U"_s) + line("Terminal"_L1, u"false"_s) +
-                   line("StartupNotify"_L1, u"true"_s) + line("Categories"_L1, u"Network;"_s) +
-                   line("X-Vantrel-Profile"_L1, profileID);
+    QString text = u"[Desktop Entry]\n"_s + keyFileLine("Type"_L1, u"Application"_s) + keyFileLine("Name"_L1, name) +
+                   keyFileLine("Comment"_L1, comment) + keyFileLine("Icon"_L1, icon) +
+                   keyFileLine("TryExec"_L1, command.value(0)) + keyFileLine("Exec"_L1, execLine(command) + u" %U"_s) +
+                   keyFileLine("Terminal"_L1, u"false"_s) + keyFileLine("StartupNotify"_L1, u"true"_s) +
+                   keyFileLine("Categories"_L1, u"Network;"_s) + keyFileLine("X-Vantrel-Profile"_L1, profileID);
     if (privateWindow) {
-        text += line("Actions"_L1, u"private;"_s) + u"\n[Desktop Action private]\n"_s +
-                line("Name"_L1, privateWindow->name) + line("Exec"_L1, commandLine(privateWindow->command));
+        text += keyFileLine("Actions"_L1, u"private;"_s) + u"\n[Desktop Action private]\n"_s +
+                keyFileLine("Name"_L1, privateWindow->name) + keyFileLine("Exec"_L1, execLine(privateWindow->command));
     }
     return text.toUtf8();
 }

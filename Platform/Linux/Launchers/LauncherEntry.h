@@ -29,10 +29,4 @@ struct LauncherEntry {
     [[nodiscard]] QByteArray text() const;
 };
 
-/// One argument as the Exec key takes it: quoted, its percent signs doubled.
-[[nodiscard]] QString execWord(const QString &argument);
-
-/// A value as a key file takes it. What would end the line, and a blank that it begins with, are written as escapes.
-[[nodiscard]] QString keyFileValue(const QString &value);
-
 } // namespace vantrel

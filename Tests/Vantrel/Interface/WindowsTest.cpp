@@ -1,6 +1,6 @@
 #include "Tests/VantrelKit/Samples.h"
 #include "Vantrel/Interface/AlertBox.h"
-#include "Vantrel/Interface/SettingsWindow.h"
+#include "Vantrel/Interface/Settings/SettingsWindow.h"
 
 #include <QApplication>
 #include <QMessageBox>
