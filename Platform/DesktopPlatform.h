@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Platform/ActivationPolicy.h"
+#include "Platform/Appearance.h"
 #include "Platform/ApplicationInstance.h"
 #include "Platform/FolderAccess.h"
 #include "Platform/LogSink.h"
@@ -30,6 +31,8 @@ struct DesktopPlatform {
     std::unique_ptr<LoginItem> loginItem;
     /// Null where the program's own drawings are shown.
     std::unique_ptr<SymbolImages> symbols;
+    /// Null where the toolkit follows the system by itself.
+    std::unique_ptr<Appearance> appearance;
     /// Null where no panel draws menus.
     std::unique_ptr<StatusItem> statusItem;
     /// Null where the system grants access to folders in no such way.

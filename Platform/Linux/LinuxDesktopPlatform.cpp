@@ -6,6 +6,7 @@
 #include "Platform/Linux/LinuxActivationPolicy.h"
 #include "Platform/Linux/LinuxUserDefaults.h"
 #include "Platform/Linux/OwnPrograms.h"
+#include "Platform/Linux/PortalAppearance.h"
 #include "Platform/Linux/Processes/BrowserProcessesThread.h"
 #include "Platform/Linux/StandardErrorLog.h"
 #include "Platform/Linux/StatusItem/StatusNotifierItem.h"
@@ -44,6 +45,7 @@ DesktopPlatform DesktopPlatform::create(Platform &platform)
         .loginItem = std::make_unique<AutostartEntry>(AutostartEntry::Places::from(variables),
                                                       commandProgram(variables.value(u"PATH"_s))),
         .symbols = nullptr,
+        .appearance = std::make_unique<PortalAppearance>(bus),
         .statusItem = std::make_unique<StatusNotifierItem>(bus, *platform.activation, Environment::from(variables)),
         .folderAccess = nullptr,
         .updater = nullptr,

@@ -7,6 +7,8 @@
 #include <QAccessible>
 #include <QHBoxLayout>
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
 namespace vantrel {
@@ -73,6 +75,10 @@ void ShortcutRecorder::arrange()
     main_->installEventFilter(this);
     setFocusProxy(main_);
     remove_->setAutoRaise(true);
+    // Recorders in a column are equally wide.
+    QSizePolicy policy = remove_->sizePolicy();
+    policy.setRetainSizeWhenHidden(true);
+    remove_->setSizePolicy(policy);
     // A press of the mouse leaves the focus where it is: recording would end, and the button move away before its
     // release.
     remove_->setFocusPolicy(Qt::TabFocus);
@@ -87,18 +93,24 @@ void ShortcutRecorder::setSubject(const QString &subject)
 void ShortcutRecorder::refresh()
 {
     shortcut_ = environment_.shortcuts.getShortcut(name_);
+    //: Button that starts recording a keyboard shortcut.
+    const QString recordText = tr("Record Shortcut");
+    //: Stands on the button of a shortcut that is being recorded.
+    const QString pressText = tr("Press Keys…");
     QString text;
     QString help;
     if (isRecording_) {
-        //: Stands on the button of a shortcut that is being recorded.
-        text = tr("Press Keys…");
+        text = pressText;
         //: Help on the button of a shortcut that is being recorded. Escape is the key.
         help = tr("Press the keys, Escape to cancel");
     } else {
-        //: Button that starts recording a keyboard shortcut.
-        text = shortcut_ ? environment_.text(*shortcut_) : tr("Record Shortcut");
+        text = shortcut_ ? environment_.text(*shortcut_) : recordText;
         //: Help on the button that shows or records a keyboard shortcut.
         help = tr("Click, then press the shortcut that opens this profile");
+    }
+    for (const QString &widest : {recordText, pressText}) {
+        main_->setText(widest);
+        main_->setMinimumWidth(std::max(widest == recordText ? 0 : main_->minimumWidth(), main_->sizeHint().width()));
     }
     main_->setText(escaped(text));
     main_->setToolTip(help);
@@ -210,8 +222,11 @@ void ShortcutRecorder::follow(const KeyEvent &keyDown)
 void ShortcutRecorder::changeEvent(QEvent *event)
 {
     switch (event->type()) {
-    case QEvent::PaletteChange:
-    case QEvent::FontChange: drawRemoveSymbol(); break;
+    case QEvent::PaletteChange: drawRemoveSymbol(); break;
+    case QEvent::FontChange:
+        drawRemoveSymbol();
+        refresh();
+        break;
     case QEvent::LanguageChange: refresh(); break;
     default: break;
     }

@@ -1,6 +1,7 @@
 #include "Vantrel/Interface/VantrelApp.h"
 
 #include "Platform/ProcessMemory.h"
+#include "Vantrel/Interface/DarkPalette.h"
 #include "Vantrel/Interface/SystemTrayIcon.h"
 #include "Vantrel/KeyEquivalent.h"
 #include "Vantrel/Pictures/TrayImage.h"
@@ -209,7 +210,11 @@ void VantrelApp::startSoon()
 {
     // Reading profiles takes both the main thread and the processors: the symbol is drawn first.
     constexpr std::chrono::milliseconds timeToDraw{20};
-    QTimer::singleShot(timeToDraw, this, [this] { discovery_.start(); });
+    QTimer::singleShot(timeToDraw, this, [this] {
+        discovery_.start();
+        if (desktop_.appearance)
+            desktop_.appearance->observe(setDark);
+    });
 }
 
 Menu VantrelApp::menu()

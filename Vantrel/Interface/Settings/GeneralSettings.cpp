@@ -8,7 +8,7 @@
 #include <QDesktopServices>
 #include <QFontDatabase>
 #include <QHBoxLayout>
-#include <QLineEdit>
+#include <QPlainTextEdit>
 #include <QPushButton>
 #include <QScrollArea>
 #include <QUrl>
@@ -23,6 +23,25 @@ constexpr int groupSpacing = 20;
 
 /// macOS's page about the programs that may use others' menus.
 constexpr auto accessibilityPage = "x-apple.systempreferences:com.apple.preference.security?Privacy_Accessibility"_L1;
+
+/// A command that can be selected and copied.
+QPlainTextEdit *makeExample(const QString &command)
+{
+    auto *example = new QPlainTextEdit(command);
+    example->setReadOnly(true);
+    example->setTabChangesFocus(true);
+    example->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    example->setWordWrapMode(QTextOption::WrapAnywhere);
+    example->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
+    // A command reads from left to right in every language.
+    example->setLayoutDirection(Qt::LeftToRight);
+    constexpr int lines = 4;
+    const auto margins = static_cast<int>(example->document()->documentMargin()) + example->frameWidth();
+    example->setFixedHeight(example->fontMetrics().lineSpacing() * lines + 2 * margins);
+    //: What screen readers call the example of a command that opens a link.
+    example->setAccessibleName(GeneralSettings::tr("Example"));
+    return example;
+}
 
 } // namespace
 
@@ -85,23 +104,14 @@ void GeneralSettings::addLinks(QVBoxLayout *groups)
         //: In the settings, above an example. Copy Link is in the menu of each profile; “url=” stands in the link.
         tr("Other apps and scripts can open a profile with a link; Copy Link in a profile's menu in the Profiles tab "
            "gives it. Add `url=` items to open web pages in it:")));
-    auto *example =
-        new QLineEdit(linkExample(environment_.store, environment_.conventions, environment_.accessibility != nullptr));
-    example->setReadOnly(true);
-    example->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
-    // A command reads from left to right in every language.
-    example->setLayoutDirection(Qt::LeftToRight);
-    example->setCursorPosition(0);
-    //: What screen readers call the example of a command that opens a link.
-    example->setAccessibleName(tr("Example"));
+    const auto text = [this] {
+        return linkExample(environment_.store, environment_.conventions, environment_.accessibility != nullptr);
+    };
+    auto *example = makeExample(text());
     group->content()->addWidget(example);
-    connect(&environment_.store, &ProfileStore::changed, example, [this, example] {
-        const QString text =
-            linkExample(environment_.store, environment_.conventions, environment_.accessibility != nullptr);
-        if (text == example->text())
-            return;
-        example->setText(text);
-        example->setCursorPosition(0);
+    connect(&environment_.store, &ProfileStore::changed, example, [example, text] {
+        if (const QString now = text(); now != example->toPlainText())
+            example->setPlainText(now);
     });
     groups->addWidget(group);
 }

@@ -4,6 +4,9 @@
 
 #include <QLabel>
 #include <QPainter>
+#include <QRegularExpression>
+
+using namespace Qt::StringLiterals;
 
 namespace vantrel {
 namespace {
@@ -34,8 +37,11 @@ SettingsGroup::SettingsGroup(const QString &title, QWidget *parent)
 
 QWidget *SettingsGroup::explanation(const QString &text)
 {
-    auto *label = new QLabel(text);
-    label->setTextFormat(Qt::PlainText);
+    QString marked = text.toHtmlEscaped();
+    static const QRegularExpression code(u"`([^`]*)`"_s);
+    marked.replace(code, u"<tt>\\1</tt>"_s);
+    auto *label = new QLabel(marked);
+    label->setTextFormat(Qt::RichText);
     label->setWordWrap(true);
     return label;
 }

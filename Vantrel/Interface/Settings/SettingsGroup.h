@@ -13,7 +13,7 @@ public:
     /// What is in the frame, one below the other.
     [[nodiscard]] QVBoxLayout *content() const { return content_; }
 
-    /// A wrapped text for it.
+    /// A wrapped text for it, in which what stands between backquotes is code.
     [[nodiscard]] static QWidget *explanation(const QString &text);
 
 protected:

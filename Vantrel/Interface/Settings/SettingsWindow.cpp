@@ -1,6 +1,8 @@
 #include "Vantrel/Interface/Settings/SettingsWindow.h"
 
+#include "Vantrel/Interface/MenuIconEngine.h"
 #include "Vantrel/Interface/Settings/AboutSettings.h"
+#include "Vantrel/Pictures/Symbols.h"
 
 #include <QCloseEvent>
 #include <QCoreApplication>
@@ -31,6 +33,7 @@ SettingsWindow::SettingsWindow(const Environment &environment)
 {
     //: Title of the settings window.
     setWindowTitle(tr("Vantrel Settings"));
+    setWindowIcon(QIcon(new MenuIconEngine([](int pixels) { return drawnImage(u"app.kestrune.Vantrel"_s, pixels); })));
     setMinimumWidth(smallestWidth);
     resize(usualSize);
     auto *layout = new QVBoxLayout(this);
