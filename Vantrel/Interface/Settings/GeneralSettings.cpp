@@ -3,7 +3,7 @@
 #include "Vantrel/Interface/Settings/AutomaticUpdatesToggle.h"
 #include "Vantrel/Interface/Settings/LaunchAtLoginToggle.h"
 #include "Vantrel/Interface/Settings/SettingsGroup.h"
-#include "Vantrel/Settings/LinkExample.h"
+#include "Vantrel/Settings/ProfileLinks.h"
 
 #include <QDesktopServices>
 #include <QFontDatabase>

@@ -9,6 +9,8 @@ namespace vantrel {
 
 /// A square picture that is drawn for the screen's pixels, as high as the text beside it or a little more.
 class PictureView final : public QWidget {
+    Q_OBJECT
+
 public:
     /// Draws a square with a side of that many device pixels; a null image leaves it empty.
     using Drawing = std::function<QImage(int pixels)>;

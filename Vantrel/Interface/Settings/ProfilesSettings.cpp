@@ -1,7 +1,6 @@
 #include "Vantrel/Interface/Settings/ProfilesSettings.h"
 
-#include "Vantrel/Settings/LinkExample.h"
-#include "VantrelKit/LaunchLink.h"
+#include "Vantrel/Settings/ProfileLinks.h"
 
 #include <QApplication>
 #include <QClipboard>
@@ -196,7 +195,7 @@ void ProfilesSettings::showMenu(const QString &profileID, const QPoint &place)
     menu_.addAction(tr("Create Launcher App…"),
                     [this, chosen] { environment_.launchers.make(chosen, environment_.store.catalogue()); });
     //: In a profile's menu.
-    menu_.addAction(tr("Copy Link"), [chosen] { copy(LaunchLink::forProfile(chosen).text()); });
+    menu_.addAction(tr("Copy Link"), [chosen] { copy(linkToCopy(chosen)); });
     menu_.addSeparator();
     const auto addMove = [&](const QString &title, ProfileMove::Direction direction, Qt::Key key) {
         QAction *action = menu_.addAction(title, [this, profileID, direction] { move(profileID, direction); });

@@ -8,6 +8,8 @@ namespace vantrel {
 
 /// A button without a frame that shows a symbol in the colour and about the height of texts.
 class SymbolButton final : public QToolButton {
+    Q_OBJECT
+
 public:
     /// The icons must outlive it.
     SymbolButton(const SymbolIcons &icons, QString symbol, QWidget *parent = nullptr);

@@ -1,5 +1,6 @@
 #include "Platform/Linux/Launchers/LauncherEntry.h"
 
+#include "Platform/Linux/EntryText.h"
 #include "Platform/Linux/ExecLine.h"
 #include "Tests/VantrelKit/Samples.h"
 #include "Tests/VantrelKit/TemporaryFolder.h"

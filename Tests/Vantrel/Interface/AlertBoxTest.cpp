@@ -1,6 +1,6 @@
-#include "Tests/VantrelKit/Samples.h"
 #include "Vantrel/Interface/AlertBox.h"
-#include "Vantrel/Interface/Settings/SettingsWindow.h"
+
+#include "Tests/VantrelKit/Printing.h"
 
 #include <QApplication>
 #include <QMessageBox>
@@ -12,40 +12,6 @@ using namespace Qt::StringLiterals;
 
 namespace vantrel {
 namespace {
-
-class CountedPolicy final : public ActivationPolicy {
-public:
-    void becomeRegular() override { isRegular_ = true; }
-    void becomeAccessory() override { isRegular_ = false; }
-    void activate() override { ++activations_; }
-
-    [[nodiscard]] bool isRegular() const { return isRegular_; }
-    [[nodiscard]] int activations() const { return activations_; }
-
-private:
-    bool isRegular_ = false;
-    int activations_ = 0;
-};
-
-TEST(SettingsWindow, CountsFromBeingShownToBeingClosed)
-{
-    CountedPolicy policy;
-    SettingsWindows windows(policy);
-    SettingsWindow window(windows);
-    EXPECT_EQ(windows.count(), 0);
-    window.show();
-    EXPECT_TRUE(policy.isRegular());
-    EXPECT_EQ(policy.activations(), 1);
-    window.show();
-    window.hide();
-    window.show();
-    EXPECT_EQ(windows.count(), 1);
-    window.close();
-    EXPECT_EQ(windows.count(), 0);
-    EXPECT_FALSE(policy.isRegular());
-    window.show();
-    EXPECT_EQ(windows.count(), 1);
-}
 
 /// The alert that is open.
 QMessageBox *openBox()

@@ -1,4 +1,4 @@
-#include "Vantrel/Settings/LinkExample.h"
+#include "Vantrel/Settings/ProfileLinks.h"
 
 #include "VantrelKit/LaunchLink.h"
 
@@ -30,6 +30,14 @@ QString linkExample(const ProfileStore &store, const SystemConventions &conventi
 {
     // Written with the page as it is, which people recognise; it needs no escapes.
     return conventions.linkCommand + " \""_L1 + exampleLink(store, hasSafari).text() + "&url="_L1 + examplePage + u'"';
+}
+
+QString linkToCopy(const Profile &profile)
+{
+    LaunchLink link = LaunchLink::forProfile(profile);
+    if (profile.target.isPrivate())
+        link.profileName = u"Private"_s;
+    return link.text();
 }
 
 QString openCommand(const QString &profileID)

@@ -9,6 +9,9 @@ namespace vantrel {
 /// "Work" where there is Safari, else with the first profile that there is.
 [[nodiscard]] QString linkExample(const ProfileStore &store, const SystemConventions &conventions, bool hasSafari);
 
+/// The link of a profile for people to pass on. A private window, which has no name, is called "Private" in it.
+[[nodiscard]] QString linkToCopy(const Profile &profile);
+
 /// The command that opens a profile, for desktops whose own settings can give a command a keyboard shortcut.
 [[nodiscard]] QString openCommand(const QString &profileID);
 

@@ -1,0 +1,253 @@
+#include "Tests/Vantrel/Interface/Settings/SettingsFixture.h"
+#include "Vantrel/Settings/ProfileLinks.h"
+
+#include <QAccessible>
+#include <QApplication>
+#include <QCheckBox>
+#include <QPlainTextEdit>
+#include <QTabBar>
+
+using namespace Qt::StringLiterals;
+
+namespace vantrel {
+namespace {
+
+using test::brave;
+using test::chrome;
+using Tab = SettingsModel::Tab;
+
+class SettingsWindowTest : public test::SettingsFixture {
+protected:
+    [[nodiscard]] QTabWidget *tabs() const { return window_->findChild<QTabWidget *>(); }
+
+    [[nodiscard]] QCheckBox *toggle(const QString &text) const { return qobject_cast<QCheckBox *>(button(text)); }
+
+    /// On its box, which is at its left end.
+    static void clickBox(QCheckBox *box)
+    {
+        QTest::mouseClick(box, Qt::LeftButton, {}, QPoint(box->height() / 2, box->height() / 2));
+    }
+
+    /// Where the focus comes by on its way through the window, as screen readers name it.
+    [[nodiscard]] QStringList focusWay() const
+    {
+        QStringList names;
+        const QWidget *first = QApplication::focusWidget();
+        do {
+            QAccessibleInterface *widget = QAccessible::queryAccessibleInterface(QApplication::focusWidget());
+            names.append(widget->text(QAccessible::Name));
+            QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+        } while (QApplication::focusWidget() != first && names.size() < 200);
+        return names;
+    }
+};
+
+TEST_F(SettingsWindowTest, CountsFromBeingShownToBeingClosed)
+{
+    show();
+    EXPECT_TRUE(policy_.isRegular());
+    EXPECT_EQ(policy_.activations(), 1);
+    window_->hide();
+    window_->show();
+    EXPECT_EQ(windows_.count(), 1);
+    window_->close();
+    EXPECT_EQ(windows_.count(), 0);
+    EXPECT_FALSE(policy_.isRegular());
+    window_->show();
+    EXPECT_EQ(windows_.count(), 1);
+}
+
+TEST_F(SettingsWindowTest, HasThreeTabsAndFollowsTheModel)
+{
+    show(Tab::general);
+    ASSERT_EQ(tabs()->count(), 3);
+    QStringList labels;
+    for (int index = 0; index < tabs()->count(); ++index) {
+        labels.append(tabs()->tabText(index));
+        EXPECT_FALSE(tabs()->tabIcon(index).pixmap(32).toImage().isNull());
+    }
+    EXPECT_EQ(labels, (QStringList{u"Profiles"_s, u"General"_s, u"About"_s}));
+    EXPECT_EQ(tabs()->currentIndex(), 1);
+    model_.setTab(Tab::profiles);
+    EXPECT_EQ(tabs()->currentIndex(), 0);
+    tabs()->setCurrentIndex(2);
+    EXPECT_EQ(model_.tab(), Tab::about);
+}
+
+TEST_F(SettingsWindowTest, AboutNamesTheProgramAndItsVersion)
+{
+    QCoreApplication::setApplicationVersion(u"1.2"_s);
+    show(Tab::about);
+    EXPECT_TRUE(shows(u"Vantrel"_s));
+    EXPECT_TRUE(shows(u"Version 1.2 (42)"_s));
+    EXPECT_TRUE(shows(u"Every browser profile, one click away."_s));
+}
+
+TEST_F(SettingsWindowTest, GeneralShowsNothingThatThereIsNot)
+{
+    show(Tab::general);
+    EXPECT_FALSE(shows(u"Safari Profiles"_s));
+    EXPECT_EQ(button(u"Open Privacy Settings…"_s), nullptr);
+    EXPECT_EQ(toggle(u"Check for Updates Automatically"_s), nullptr);
+    EXPECT_NE(toggle(u"Open at Login"_s), nullptr);
+    EXPECT_TRUE(shows(u"Links"_s));
+}
+
+TEST_F(SettingsWindowTest, GeneralShowsWhetherSafarisMenusMayBeUsedAndReadsItAgain)
+{
+    hasSafari_ = true;
+    accessibility_.setTrusted(false);
+    show(Tab::general);
+    EXPECT_TRUE(shows(u"Safari Profiles"_s));
+    EXPECT_TRUE(shows(u"Accessibility"_s));
+    EXPECT_TRUE(shows(u"Not allowed"_s));
+    EXPECT_NE(button(u"Open Privacy Settings…"_s), nullptr);
+    EXPECT_TRUE(shows(u"Safari can only be told which profile to open through its File menu, so Vantrel clicks it for "
+                      "you. That needs Accessibility, and macOS asks to let Vantrel control Safari and System Events. "
+                      "Other browsers need neither."_s));
+    EXPECT_EQ(accessibility_.questions(), 0);
+    accessibility_.setTrusted(true);
+    QWidget other;
+    other.show();
+    other.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&other));
+    window_->activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(window_.get()));
+    EXPECT_TRUE(shows(u"Allowed"_s));
+    accessibility_.setTrusted(false);
+    tabs()->setCurrentIndex(0);
+    tabs()->setCurrentIndex(1);
+    EXPECT_TRUE(shows(u"Not allowed"_s));
+}
+
+TEST_F(SettingsWindowTest, GeneralShowsHowALinkIsOpened)
+{
+    show(Tab::general);
+    EXPECT_TRUE(
+        shows(u"Other apps and scripts can open a profile with a link; Copy Link in a profile&#39;s menu in the "
+              "Profiles tab gives it. Add <tt>url=</tt> items to open web pages in it:"_s) ||
+        shows(u"Other apps and scripts can open a profile with a link; Copy Link in a profile's menu in the "
+              "Profiles tab gives it. Add <tt>url=</tt> items to open web pages in it:"_s));
+    auto *example = window_->findChild<QPlainTextEdit *>();
+    EXPECT_TRUE(example->isReadOnly());
+    discover(chrome, {u"1"_s});
+    EXPECT_EQ(example->toPlainText(), linkExample(store_, conventions_, false));
+    EXPECT_TRUE(example->toPlainText().contains(u"profile=com.google.Chrome/chromium:1"_s));
+}
+
+TEST_F(SettingsWindowTest, OpenAtLoginShowsWhatHolds)
+{
+    show(Tab::general);
+    QCheckBox *login = toggle(u"Open at Login"_s);
+    EXPECT_FALSE(login->isChecked());
+    clickBox(login);
+    EXPECT_TRUE(login->isChecked());
+    EXPECT_TRUE(loginItem_.isEnabled());
+    clickBox(login);
+    loginItem_.refuse(u"The disk is full."_s);
+    clickBox(login);
+    EXPECT_FALSE(login->isChecked());
+    EXPECT_EQ(alert_.shown(), QStringList{u"Vantrel Can't Be Opened at Login / The disk is full."_s});
+    loginItem_.change(true);
+    tabs()->setCurrentIndex(0);
+    tabs()->setCurrentIndex(1);
+    EXPECT_TRUE(login->isChecked());
+}
+
+TEST_F(SettingsWindowTest, UpdatesAreLookedForAsTheUserWants)
+{
+    hasUpdater_ = true;
+    show(Tab::general);
+    QCheckBox *updates = toggle(u"Check for Updates Automatically"_s);
+    ASSERT_NE(updates, nullptr);
+    EXPECT_FALSE(updates->isChecked());
+    clickBox(updates);
+    EXPECT_TRUE(updater_.automaticallyChecksForUpdates());
+    clickBox(updates);
+    EXPECT_FALSE(updater_.automaticallyChecksForUpdates());
+}
+
+TEST_F(SettingsWindowTest, TheKeyboardReachesEverythingInTheOrderInWhichItIsRead)
+{
+    install({chrome, brave});
+    discover(brave, {u"1"_s});
+    store_.apply({{chrome, std::unexpected(ProfileDiscoveryError::accessDenied(u"/x"_s))}});
+    show();
+    tabs()->tabBar()->setFocus();
+    const QString window = privateWindowName(brave);
+    EXPECT_EQ(focusWay(),
+              (QStringList{u"Profiles"_s, u"1: Name"_s, u"1: Record Shortcut"_s, u"1: Leave out of the menu"_s,
+                           u"1: More"_s, window + u": Name"_s, window + u": Record Shortcut"_s,
+                           window + u": Leave out of the menu"_s, window + u": More"_s, u"Try Again"_s,
+                           privateWindowName(chrome) + u": Name"_s, privateWindowName(chrome) + u": Record Shortcut"_s,
+                           privateWindowName(chrome) + u": Leave out of the menu"_s,
+                           privateWindowName(chrome) + u": More"_s}));
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab, Qt::ControlModifier);
+    EXPECT_EQ(model_.tab(), Tab::general);
+}
+
+TEST_F(SettingsWindowTest, EverythingThatCanBeUsedHasANameAndARole)
+{
+    hasSafari_ = true;
+    hasUpdater_ = true;
+    discover(chrome, {u"1"_s});
+    show();
+    for (const int tab : {0, 1, 2}) {
+        tabs()->setCurrentIndex(tab);
+        for (QWidget *widget : window_->findChildren<QWidget *>()) {
+            if (!widget->isVisible() || widget->focusProxy() || (widget->focusPolicy() & Qt::TabFocus) == 0)
+                continue;
+            QAccessibleInterface *accessible = QAccessible::queryAccessibleInterface(widget);
+            ASSERT_NE(accessible, nullptr);
+            EXPECT_FALSE(accessible->text(QAccessible::Name).isEmpty()) << widget->metaObject()->className();
+            EXPECT_NE(accessible->role(), QAccessible::NoRole);
+            EXPECT_TRUE(accessible->state().focusable) << widget->metaObject()->className();
+        }
+    }
+}
+
+TEST_F(SettingsWindowTest, RightToLeftIsMirrored)
+{
+    discover(chrome, {u"1"_s});
+    QGuiApplication::setLayoutDirection(Qt::RightToLeft);
+    show();
+    const ProfileRow *mirrored = row(u"c:1"_s);
+    EXPECT_GT(mirrored->findChild<PictureView *>()->x(), name(u"c:1"_s)->x());
+    EXPECT_LT(moreButton(u"c:1"_s)->x(), hideButton(u"c:1"_s)->x());
+    EXPECT_LT(hideButton(u"c:1"_s)->x(), name(u"c:1"_s)->x());
+    window_.reset();
+    QGuiApplication::setLayoutDirection(Qt::LeftToRight);
+}
+
+TEST_F(SettingsWindowTest, NothingIsCutOffWithLargeTextInANarrowWindow)
+{
+    hasSafari_ = true;
+    hasUpdater_ = true;
+    install({chrome, brave});
+    discover(chrome, {u"1"_s});
+    store_.apply({{brave, std::unexpected(ProfileDiscoveryError::accessDenied(u"/x"_s))}});
+    show();
+    QFont font = window_->font();
+    font.setPointSizeF(font.pointSizeF() * 2);
+    window_->setFont(font);
+    window_->resize(480, 600);
+    for (const int tab : {0, 1, 2}) {
+        tabs()->setCurrentIndex(tab);
+        QCoreApplication::sendPostedEvents();
+        for (QWidget *widget : window_->findChildren<QWidget *>()) {
+            const bool isText = qobject_cast<QLabel *>(widget) || qobject_cast<QAbstractButton *>(widget);
+            if (!isText || !widget->isVisible() || widget->parentWidget() == tabs()->tabBar())
+                continue;
+            const QRect place(widget->mapTo(window_.get(), QPoint()), widget->size());
+            EXPECT_GE(place.left(), 0) << widget->metaObject()->className();
+            EXPECT_LE(place.right(), window_->width()) << widget->metaObject()->className();
+            if (const auto *label = qobject_cast<QLabel *>(widget); label && label->wordWrap())
+                EXPECT_GE(label->height(), label->heightForWidth(label->width())) << label->text().toStdString();
+            else
+                EXPECT_GE(widget->width(), widget->minimumSizeHint().width()) << widget->metaObject()->className();
+        }
+    }
+}
+
+} // namespace
+} // namespace vantrel
