@@ -13,7 +13,7 @@ test_packages=(libgtest-dev libgmock-dev libbenchmark-dev qt6-image-formats-plug
   clang-tidy-19 libclang-19-dev libclang-rt-19-dev llvm-19-dev shellcheck git python3 python3-flake8
   desktop-file-utils bubblewrap util-linux jq chromium firefox-esr xvfb openbox xdotool x11-utils imagemagick dbus wmctrl
   trayer xfce4-panel xdg-utils libglib2.0-bin python3-gi fonts-dejavu-core libxcb-xtest0-dev
-  x11-xkb-utils xdg-desktop-portal icnsutils libplist-utils)
+  x11-xkb-utils xdg-desktop-portal icnsutils libplist-utils at-spi2-core gir1.2-atspi-2.0 xclip)
 demo_packages=(python3)
 brew_formulas=(cmake ninja ccache pkgconf qt simdjson googletest google-benchmark glib libplist libpng)
 

@@ -31,8 +31,13 @@ class AppCase(unittest.TestCase):
     def run(self, result: unittest.TestResult | None = None) -> unittest.TestResult | None:
         self._result = result or self.defaultTestResult()
         self._failures_before = _failure_count(self._result)
-        with AppSession(self.installed) as self.session:
+        self.session = AppSession(self.installed)
+        self.prepare()
+        with self.session:
             return super().run(self._result)
+
+    def prepare(self) -> None:
+        """What has to be done before the desktop starts."""
 
     def tearDown(self) -> None:
         """Nothing may have been opened beyond what the test has seen, and the app ends when it is told to."""

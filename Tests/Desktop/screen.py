@@ -85,6 +85,14 @@ class Screen:
     def point(self, place: tuple[int, int]) -> None:
         self._session.run(["xdotool", "mousemove", "--sync", *map(str, place)])
 
+    def drag(self, start: tuple[int, int], end: tuple[int, int]) -> None:
+        self.point(start)
+        self._session.run(["xdotool", "mousedown", "1"])
+        # A drag begins once the pointer has moved some way.
+        self.point(((start[0] + end[0]) // 2, (start[1] + end[1]) // 2))
+        self.point(end)
+        self._session.run(["xdotool", "mouseup", "1"])
+
     def press(self, *keys: str) -> None:
         self._session.run(["xdotool", "key", "--delay", "30", *keys])
 

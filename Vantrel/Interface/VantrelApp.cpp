@@ -3,7 +3,6 @@
 #include "Platform/ProcessMemory.h"
 #include "Vantrel/Interface/DarkPalette.h"
 #include "Vantrel/Interface/SystemTrayIcon.h"
-#include "Vantrel/KeyEquivalent.h"
 #include "Vantrel/Pictures/TrayImage.h"
 #include "Vantrel/ProfileMenu.h"
 #include "Vantrel/SavedState.h"
@@ -80,12 +79,6 @@ VantrelApp::VantrelApp(Platform &platform, DesktopPlatform &desktop, QString bui
                  profileReader()),
       opener_(store_, {*platform.workspace, alert_, *desktop.log, safari_ ? &safari_->windows() : nullptr}),
       links_(store_, discovery_, opener_),
-      keyboard_(DesktopKeyboard::create(
-          *platform.activation,
-          [this](std::uint32_t keyCode, std::uint32_t modifiers) { return descriptionOf(keyCode, modifiers); })),
-      shortcuts_({*desktop.userDefaults, *keyboard_.hotKeys, *keyboard_.layout}),
-      hotkeys_(store_, opener_, shortcuts_),
-      shortcutTexts_(shortcuts_, keyboard_, desktop.conventions),
       launchers_({*desktop.activationPolicy, alert_, *desktop.log}),
       symbols_(desktop.symbols.get()),
       settingsWindows_(*desktop.activationPolicy),
@@ -100,12 +93,6 @@ VantrelApp::VantrelApp(Platform &platform, DesktopPlatform &desktop, QString bui
         // The panel asks for all icons at once.
         connect(&icons_, &ProfileIconCache::prepared, this, [this] { desktop_.statusItem->updateMenu(); });
     }
-    // A menu has the keyboard to itself. That of a panel is another program's, and can't be helped.
-    connect(&popup_, &QMenu::aboutToShow, this, [this] { shortcuts_.setMenuOpen(true); });
-    connect(&popup_, &QMenu::aboutToHide, this, [this] { shortcuts_.setMenuOpen(false); });
-    connect(&shortcuts_, &KeyboardShortcuts::shortcutByNameDidChange, this, &VantrelApp::updateShortcutsInMenus);
-    keyboard_.layout->onChange([this] { takeKeyboardChange(); });
-    keyboard_.hotKeys->onChange([this] { takeKeyboardChange(); });
 }
 
 VantrelApp::~VantrelApp()
@@ -120,7 +107,6 @@ std::expected<ApplicationInstance::Role, PlatformError> VantrelApp::start(const 
         return role;
     desktop_.activationPolicy->becomeAccessory();
     tray_.start(statusItemContent());
-    hotkeys_.start();
     // A plain start shows the symbol and nothing else.
     if (first.kind != InstanceRequest::Kind::activate)
         take(first);
@@ -132,6 +118,7 @@ void VantrelApp::take(const InstanceRequest &request)
     platform_.activation->noteToken(request.activationToken);
     platform_.activation->noteStartupID(request.startupID);
     discovery_.start();
+    std::ignore = shortcuts();
     switch (request.kind) {
     case InstanceRequest::Kind::activate: showSettings(settingsModel_.tab()); return;
     case InstanceRequest::Kind::open: {
@@ -183,9 +170,9 @@ SettingsWindow *VantrelApp::makeSettingsWindow()
         .store = store_,
         .discovery = discovery_,
         .opener = opener_,
-        .shortcuts = shortcuts_,
-        .hotkeys = hotkeys_,
-        .shortcutTexts = shortcutTexts_,
+        .shortcuts = shortcuts().shortcuts(),
+        .hotkeys = shortcuts().hotkeys(),
+        .shortcutTexts = shortcuts().texts(),
         .icons = icons_,
         .launchers = launchers_,
         .browserData = *platform_.browserData,
@@ -208,10 +195,11 @@ SettingsWindow *VantrelApp::makeSettingsWindow()
 
 void VantrelApp::startSoon()
 {
-    // Reading profiles takes both the main thread and the processors: the symbol is drawn first.
+    // Reading profiles and asking for the keyboard take the main thread and the processors: the symbol is drawn first.
     constexpr std::chrono::milliseconds timeToDraw{20};
     QTimer::singleShot(timeToDraw, this, [this] {
         discovery_.start();
+        std::ignore = shortcuts();
         if (desktop_.appearance)
             desktop_.appearance->observe(setDark);
     });
@@ -228,7 +216,7 @@ Menu VantrelApp::menu()
         .quit = [] { QCoreApplication::quit(); },
         .icon = [this](const Profile &profile, int pixels) { return icons_.image(iconOf(profile), pixels); },
         .iconPNG = [this](const Profile &profile, int pixels) { return icons_.png(iconOf(profile), pixels); },
-        .shortcut = [this](const Profile &profile) { return keyEquivalentOf(profile); },
+        .shortcut = [this](const Profile &profile) { return shortcuts().keyEquivalentOf(profile); },
     };
     return profileMenu(store_, actions);
 }
@@ -264,44 +252,32 @@ void VantrelApp::prepareIcons()
                                             : ProfileIconCache::Sizes{.image = popup_.iconPixels()});
 }
 
-void VantrelApp::takeKeyboardChange()
+GlobalShortcuts &VantrelApp::shortcuts()
 {
-    updateShortcutsInMenus();
-    if (settingsWindow_)
-        settingsWindow_->takeKeyboardChange();
+    if (!shortcuts_)
+        makeShortcuts();
+    return *shortcuts_;
 }
 
-void VantrelApp::updateShortcutsInMenus()
+void VantrelApp::makeShortcuts()
 {
-    QHash<QString, QKeySequence> keys;
-    for (const Profile &profile : store_.profiles()) {
-        if (const QKeySequence key = keyEquivalentOf(profile); !key.isEmpty())
-            keys.insert(profile.id(), key);
-    }
-    // Another keyboard is news of the layout as well, and with most of them nothing looks different.
-    if (keys == std::exchange(shortcutsInMenus_, keys))
-        return;
+    shortcuts_.emplace(GlobalShortcuts::Environment{*platform_.activation, *desktop_.userDefaults, store_, opener_,
+                                                    desktop_.conventions});
+    // A menu has the keyboard to itself. That of a panel is another program's, and can't be helped.
+    connect(&popup_, &QMenu::aboutToShow, this, [this] { shortcuts_->shortcuts().setMenuOpen(true); });
+    connect(&popup_, &QMenu::aboutToHide, this, [this] { shortcuts_->shortcuts().setMenuOpen(false); });
+    connect(&*shortcuts_, &GlobalShortcuts::keyEquivalentsChanged, this, &VantrelApp::updateMenus);
+    connect(&*shortcuts_, &GlobalShortcuts::keyboardChanged, this, [this] {
+        if (settingsWindow_)
+            settingsWindow_->takeKeyboardChange();
+    });
+}
+
+void VantrelApp::updateMenus()
+{
     popup_.updateRows();
     if (desktop_.statusItem)
         desktop_.statusItem->updateMenu();
-}
-
-QKeySequence VantrelApp::keyEquivalentOf(const Profile &profile) const
-{
-    return keyEquivalent(shortcuts_.getShortcut(ProfileHotkeys::shortcutName(profile)), *keyboard_.layout);
-}
-
-QString VantrelApp::descriptionOf(std::uint32_t keyCode, std::uint32_t modifiers) const
-{
-    const Shortcut wanted{keyCode, modifiers};
-    for (const Profile &profile : store_.profiles()) {
-        if (shortcuts_.getShortcut(ProfileHotkeys::shortcutName(profile)) == wanted) {
-            //: What a global shortcut does, where the desktop lets the user choose its keys. The placeholder is a
-            //: browser's and a profile's name.
-            return Texts::tr("Open %1").arg(store_.catalogue().title(profile));
-        }
-    }
-    return u"Vantrel"_s;
 }
 
 ProfileIcon VantrelApp::iconOf(const Profile &profile) const

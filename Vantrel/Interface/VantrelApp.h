@@ -1,20 +1,17 @@
 #pragma once
 
-#include "KeyboardShortcuts/DesktopKeyboard.h"
-#include "KeyboardShortcuts/KeyboardShortcuts.h"
 #include "Platform/DesktopPlatform.h"
 #include "Vantrel/DiscoveryRuns.h"
 #include "Vantrel/Interface/AlertBox.h"
+#include "Vantrel/Interface/GlobalShortcuts.h"
 #include "Vantrel/Interface/PopupMenu.h"
 #include "Vantrel/Interface/ProfileLaunchers.h"
 #include "Vantrel/Interface/Settings/SettingsWindow.h"
 #include "Vantrel/LinkQueue.h"
 #include "Vantrel/Pictures/ProfileIconCache.h"
-#include "Vantrel/ProfileHotkeys.h"
 #include "Vantrel/ProfileOpener.h"
 #include "Vantrel/ProfileStore.h"
 #include "Vantrel/Safari/Automation.h"
-#include "Vantrel/Settings/ShortcutTexts.h"
 #include "Vantrel/SettingsModel.h"
 #include "Vantrel/TimerClock.h"
 #include "Vantrel/TrayPresence.h"
@@ -49,10 +46,9 @@ private:
     [[nodiscard]] StatusItem::Content statusItemContent();
     void takeStoreChange();
     void prepareIcons();
-    void takeKeyboardChange();
-    void updateShortcutsInMenus();
-    [[nodiscard]] QKeySequence keyEquivalentOf(const Profile &profile) const;
-    [[nodiscard]] QString descriptionOf(std::uint32_t keyCode, std::uint32_t modifiers) const;
+    [[nodiscard]] GlobalShortcuts &shortcuts();
+    void makeShortcuts();
+    void updateMenus();
 
     Platform &platform_;
     DesktopPlatform &desktop_;
@@ -66,13 +62,9 @@ private:
     AlertBox alert_;
     ProfileOpener opener_;
     LinkQueue links_;
-    DesktopKeyboard keyboard_;
-    KeyboardShortcuts shortcuts_;
-    ProfileHotkeys hotkeys_;
-    /// By the profiles' ids; only of those that have one.
-    QHash<QString, QKeySequence> shortcutsInMenus_;
+    /// Made when the symbol is there, or when somebody asks for them before.
+    std::optional<GlobalShortcuts> shortcuts_;
     ProfileIconCache icons_;
-    ShortcutTexts shortcutTexts_;
     ProfileLaunchers launchers_;
     SymbolIcons symbols_;
     SettingsModel settingsModel_;

@@ -99,7 +99,7 @@ void ProfileRow::showContent(const Content &content)
     if (!name_->isModified() && name_->text() != content.displayName)
         name_->setText(content.displayName);
     name_->setPlaceholderText(content.ownName);
-    const QString &subject = content.displayName;
+    const QString &subject = content.title;
     //: Label of the field with a profile's name.
     const QString nameLabel = tr("Name");
     name_->setToolTip(nameLabel);

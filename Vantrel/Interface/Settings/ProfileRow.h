@@ -20,6 +20,8 @@ public:
         /// The name that the user sees, and that without the user's doing.
         QString displayName;
         QString ownName;
+        /// With the browser's name, for those who can't see under which one the row is.
+        QString title;
         bool isHidden = false;
         ProfileIcon icon;
 

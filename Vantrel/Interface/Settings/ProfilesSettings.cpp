@@ -145,6 +145,7 @@ ProfileRow::Content ProfilesSettings::contentOf(const Profile &profile) const
     return {.id = profile.id(),
             .displayName = displayName,
             .ownName = ProfileCatalogue::defaultName(profile),
+            .title = environment_.store.catalogue().title(profile),
             .isHidden = environment_.store.catalogue().isHidden(profile),
             .icon = ProfileIcon::of(profile, displayName)};
 }

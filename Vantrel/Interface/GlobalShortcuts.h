@@ -1,0 +1,58 @@
+#pragma once
+
+#include "KeyboardShortcuts/DesktopKeyboard.h"
+#include "KeyboardShortcuts/KeyboardShortcuts.h"
+#include "Platform/SystemConventions.h"
+#include "Vantrel/ProfileHotkeys.h"
+#include "Vantrel/Settings/ShortcutTexts.h"
+
+#include <QKeySequence>
+
+namespace vantrel {
+
+/// The profiles' keyboard shortcuts and the keyboard that they are on. Asking for that takes a while, so it is made
+/// once the program has shown its symbol. Main thread only.
+class GlobalShortcuts final : public QObject {
+    Q_OBJECT
+
+public:
+    /// What it works with; all must outlive it.
+    struct Environment {
+        ActivationSource &activation;
+        UserDefaults &defaults;
+        const ProfileStore &store;
+        ProfileOpener &opener;
+        const SystemConventions &conventions;
+    };
+
+    explicit GlobalShortcuts(const Environment &environment);
+    ~GlobalShortcuts() override = default;
+    Q_DISABLE_COPY_MOVE(GlobalShortcuts)
+
+    [[nodiscard]] KeyboardShortcuts &shortcuts() { return shortcuts_; }
+    [[nodiscard]] const ProfileHotkeys &hotkeys() const { return hotkeys_; }
+    [[nodiscard]] const ShortcutTexts &texts() const { return texts_; }
+
+    /// What the menus show beside the profile; empty without a shortcut.
+    [[nodiscard]] QKeySequence keyEquivalentOf(const Profile &profile) const;
+
+Q_SIGNALS:
+    /// What the menus show is another.
+    void keyEquivalentsChanged();
+    /// The keyboard, or what the desktop says about shortcuts, has changed.
+    void keyboardChanged();
+
+private:
+    void updateKeyEquivalents();
+    [[nodiscard]] QString descriptionOf(std::uint32_t keyCode, std::uint32_t modifiers) const;
+
+    const ProfileStore &store_;
+    DesktopKeyboard keyboard_;
+    KeyboardShortcuts shortcuts_;
+    ProfileHotkeys hotkeys_;
+    ShortcutTexts texts_;
+    /// By the profiles' ids; only of those that have one.
+    QHash<QString, QKeySequence> keyEquivalents_;
+};
+
+} // namespace vantrel
