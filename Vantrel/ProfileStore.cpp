@@ -23,6 +23,11 @@ QString joined(const QSet<qsizetype> &positions)
     return texts.join(u',');
 }
 
+Profile toProfile(const ProfileTarget::SafariProfile &found, const QString &bundleID)
+{
+    return {bundleID, found.name, ProfileTarget::safariProfile(found.name, found.index)};
+}
+
 } // namespace
 
 ProfileStore::ProfileStore(QString savedStatePath, LogSink &log, Liveness liveness)
@@ -146,7 +151,7 @@ void ProfileStore::takeSafariProfiles(const QString &bundleID, const QList<Profi
 {
     QList<Profile> fresh;
     for (const ProfileTarget::SafariProfile &profile : found)
-        fresh.append({bundleID, profile.name, ProfileTarget::safariProfile(profile.name, profile.index)});
+        fresh.append(toProfile(profile, bundleID));
     fresh.append(Profile::privateWindow(bundleID));
     setProfiles(ProfileList::merge(fresh, bundleID, profiles()));
     searchedSafari_.insert(bundleID);
