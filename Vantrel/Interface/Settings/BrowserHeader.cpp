@@ -1,5 +1,6 @@
 #include "Vantrel/Interface/Settings/BrowserHeader.h"
 
+#include "Vantrel/Interface/Settings/LeadingAlignment.h"
 #include "Vantrel/Interface/Settings/PictureView.h"
 
 #include <QHBoxLayout>
@@ -20,6 +21,8 @@ BrowserHeader::BrowserHeader(const BrowserSection &section, Icon icon, QWidget *
     layout->addWidget(new PictureView(iconSide, std::move(icon), this));
     layout->addWidget(name_, 1);
     name_->setTextFormat(Qt::PlainText);
+    // Beside the icon, whatever script the name is in.
+    name_->setAlignment(leading(*this) | Qt::AlignVCenter);
     QFont font = name_->font();
     font.setBold(true);
     name_->setFont(font);

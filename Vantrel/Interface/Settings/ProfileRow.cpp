@@ -1,5 +1,7 @@
 #include "Vantrel/Interface/Settings/ProfileRow.h"
 
+#include "Vantrel/Interface/Settings/LeadingAlignment.h"
+
 #include <QApplication>
 #include <QHBoxLayout>
 #include <QMouseEvent>
@@ -38,6 +40,7 @@ ProfileRow::ProfileRow(const Environment &environment, Content content, QWidget 
     setCursor(Qt::OpenHandCursor);
     for (QWidget *control : std::initializer_list<QWidget *>{recorder_ ? recorder_ : command_, hide_, more_})
         control->setCursor(Qt::ArrowCursor);
+    name_->setAlignment(leading(*this) | Qt::AlignVCenter);
     name_->setMinimumWidth(name_->fontMetrics().averageCharWidth() * fewCharacters);
     name_->installEventFilter(this);
     connect(name_, &QLineEdit::editingFinished, this, &ProfileRow::commitName);

@@ -214,6 +214,7 @@ TEST_F(SettingsWindowTest, RightToLeftIsMirrored)
     show();
     const ProfileRow *mirrored = row(u"c:1"_s);
     EXPECT_GT(mirrored->findChild<PictureView *>()->x(), name(u"c:1"_s)->x());
+    EXPECT_EQ(name(u"c:1"_s)->alignment(), Qt::AlignAbsolute | Qt::AlignRight | Qt::AlignVCenter);
     EXPECT_LT(moreButton(u"c:1"_s)->x(), hideButton(u"c:1"_s)->x());
     EXPECT_LT(hideButton(u"c:1"_s)->x(), name(u"c:1"_s)->x());
     window_.reset();
