@@ -2,6 +2,7 @@
 #include "Vantrel/CommandLine/CommandLine.h"
 #include "Vantrel/CommandLine/CommandProgram.h"
 #include "Vantrel/SavedState.h"
+#include "Vantrel/Translations/Translations.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -16,6 +17,10 @@ int main(int argc, char *argv[])
     const QCoreApplication application(argc, argv);
     QCoreApplication::setApplicationName(u"Vantrel"_s);
     QCoreApplication::setApplicationVersion(QStringLiteral(VANTREL_VERSION));
+    Translations translations;
+    // What other programs read doesn't change with the user's language.
+    if (!QCoreApplication::arguments().contains(u"--json"_s))
+        translations.install(Translations::userLanguages());
 
     const Platform platform = Platform::create();
     const ProfileReader reader;

@@ -30,13 +30,13 @@ State stateOf(const QString &path)
     if (!QFileInfo(path).isFile())
         return State::none;
     const std::unique_ptr<GKeyFile, Deleter> file(g_key_file_new());
-    if (!g_key_file_load_from_file(file.get(), QFile::encodeName(path).constData(), G_KEY_FILE_NONE, nullptr))
+    if (g_key_file_load_from_file(file.get(), QFile::encodeName(path).constData(), G_KEY_FILE_NONE, nullptr) == FALSE)
         return State::off;
     const char *group = G_KEY_FILE_DESKTOP_GROUP;
     const char *gnomesKey = "X-GNOME-Autostart-enabled";
-    const bool isSwitchedOff = g_key_file_has_key(file.get(), group, gnomesKey, nullptr) &&
-                               !g_key_file_get_boolean(file.get(), group, gnomesKey, nullptr);
-    const bool isHidden = g_key_file_get_boolean(file.get(), group, G_KEY_FILE_DESKTOP_KEY_HIDDEN, nullptr);
+    const bool isSwitchedOff = g_key_file_has_key(file.get(), group, gnomesKey, nullptr) != FALSE &&
+                               g_key_file_get_boolean(file.get(), group, gnomesKey, nullptr) == FALSE;
+    const bool isHidden = g_key_file_get_boolean(file.get(), group, G_KEY_FILE_DESKTOP_KEY_HIDDEN, nullptr) != FALSE;
     return isHidden || isSwitchedOff ? State::off : State::on;
 }
 

@@ -26,7 +26,7 @@ Q_SIGNALS:
 /// said.
 class PortalAppearance final : public QObject, public Appearance {
 public:
-    explicit PortalAppearance(const QDBusConnection &bus) : bus_(bus) {}
+    explicit PortalAppearance(QDBusConnection bus) : bus_(std::move(bus)) {}
 
     void observe(std::function<void(bool isDark)> changed) override;
 

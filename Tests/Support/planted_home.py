@@ -14,7 +14,7 @@ from .stand_in import StandIns
 # What the machine's own session must not bring into a planted home, beside all XDG variables.
 _REMOVED_VARIABLES = {
     "CHROME_CONFIG_HOME", "CHROME_USER_DATA_DIR", "HELIUM_CONFIG_HOME", "MOZ_LEGACY_HOME",
-    "DISPLAY", "WAYLAND_DISPLAY", "DBUS_SESSION_BUS_ADDRESS", "LANGUAGE", "LC_ALL", "QT_QPA_PLATFORM",
+    "DISPLAY", "WAYLAND_DISPLAY", "DBUS_SESSION_BUS_ADDRESS", "LANGUAGE", "LC_ALL", "LC_MESSAGES", "QT_QPA_PLATFORM",
 }
 
 

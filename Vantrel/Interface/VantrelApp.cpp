@@ -255,19 +255,23 @@ void VantrelApp::prepareIcons()
 GlobalShortcuts &VantrelApp::shortcuts()
 {
     if (!shortcuts_)
-        makeShortcuts();
+        connectShortcuts(makeShortcuts());
     return *shortcuts_;
 }
 
-void VantrelApp::makeShortcuts()
+GlobalShortcuts &VantrelApp::makeShortcuts()
 {
-    shortcuts_.emplace(GlobalShortcuts::Environment{*platform_.activation, *desktop_.userDefaults, store_, opener_,
-                                                    desktop_.conventions});
+    return shortcuts_.emplace(GlobalShortcuts::Environment{*platform_.activation, *desktop_.userDefaults, store_,
+                                                           opener_, desktop_.conventions});
+}
+
+void VantrelApp::connectShortcuts(GlobalShortcuts &made)
+{
     // A menu has the keyboard to itself. That of a panel is another program's, and can't be helped.
-    connect(&popup_, &QMenu::aboutToShow, this, [this] { shortcuts_->shortcuts().setMenuOpen(true); });
-    connect(&popup_, &QMenu::aboutToHide, this, [this] { shortcuts_->shortcuts().setMenuOpen(false); });
-    connect(&*shortcuts_, &GlobalShortcuts::keyEquivalentsChanged, this, &VantrelApp::updateMenus);
-    connect(&*shortcuts_, &GlobalShortcuts::keyboardChanged, this, [this] {
+    connect(&popup_, &QMenu::aboutToShow, &made, [&made] { made.shortcuts().setMenuOpen(true); });
+    connect(&popup_, &QMenu::aboutToHide, &made, [&made] { made.shortcuts().setMenuOpen(false); });
+    connect(&made, &GlobalShortcuts::keyEquivalentsChanged, this, &VantrelApp::updateMenus);
+    connect(&made, &GlobalShortcuts::keyboardChanged, this, [this] {
         if (settingsWindow_)
             settingsWindow_->takeKeyboardChange();
     });

@@ -47,7 +47,8 @@ private:
     void takeStoreChange();
     void prepareIcons();
     [[nodiscard]] GlobalShortcuts &shortcuts();
-    void makeShortcuts();
+    GlobalShortcuts &makeShortcuts();
+    void connectShortcuts(GlobalShortcuts &made);
     void updateMenus();
 
     Platform &platform_;

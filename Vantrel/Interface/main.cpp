@@ -1,5 +1,6 @@
 #include "Platform/ProcessMemory.h"
 #include "Vantrel/Interface/VantrelApp.h"
+#include "Vantrel/Translations/Translations.h"
 
 #include <QApplication>
 #include <QProcessEnvironment>
@@ -44,6 +45,9 @@ int main(int argc, char *argv[])
     QApplication::setApplicationVersion(QStringLiteral(VANTREL_VERSION));
     QApplication::setDesktopFileName(u"app.kestrune.Vantrel"_s);
     QApplication::setQuitOnLastWindowClosed(false);
+    Translations translations;
+    translations.install(Translations::userLanguages());
+    QApplication::setLayoutDirection(translations.layoutDirection());
 
     DesktopPlatform desktop = DesktopPlatform::create(platform);
     VantrelApp app(platform, desktop, QStringLiteral(VANTREL_BUILD));

@@ -29,7 +29,8 @@ LaunchLink exampleLink(const ProfileStore &store, bool hasSafari)
 QString linkExample(const ProfileStore &store, const SystemConventions &conventions, bool hasSafari)
 {
     // Written with the page as it is, which people recognise; it needs no escapes.
-    return conventions.linkCommand + " \""_L1 + exampleLink(store, hasSafari).text() + "&url="_L1 + examplePage + u'"';
+    return conventions.linkCommand + uR"( ")"_s + exampleLink(store, hasSafari).text() + "&url="_L1 + examplePage +
+           u'"';
 }
 
 QString linkToCopy(const Profile &profile)

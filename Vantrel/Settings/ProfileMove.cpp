@@ -21,7 +21,7 @@ std::optional<ProfileMove> ProfileMove::byOne(const ProfileStore &store, const Q
 
 qsizetype dropDestination(int height, int top, int rowHeight, qsizetype rowCount)
 {
-    const qsizetype below = std::max(0, height - top + rowHeight / 2);
+    const qsizetype below = std::max(0, height - top + (rowHeight / 2));
     return std::min(below / std::max(1, rowHeight), rowCount);
 }
 

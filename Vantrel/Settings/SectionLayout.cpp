@@ -19,14 +19,14 @@ SectionLayout::SectionLayout(QList<Section> sections, int rowHeight)
         }
         tops.rows = height_ + partSpacing;
         if (section.rowCount > 0)
-            height_ = tops.rows + static_cast<int>(section.rowCount) * rowHeight_;
+            height_ = tops.rows + (static_cast<int>(section.rowCount) * rowHeight_);
         tops_.append(tops);
     }
 }
 
 int SectionLayout::rowTop(Row row) const
 {
-    return tops_[row.section].rows + static_cast<int>(row.index) * rowHeight_;
+    return tops_[row.section].rows + (static_cast<int>(row.index) * rowHeight_);
 }
 
 int SectionLayout::rowsHeight(qsizetype section) const

@@ -18,8 +18,7 @@ struct Texts {
 QString ShortcutTexts::text(const Shortcut &shortcut) const
 {
     const KeyboardLayout &layout = *keyboard_.layout;
-    const QString keys =
-        conventions_.showsKeySigns ? shortcut.description(layout) : keyText(keyEquivalent(shortcut, layout));
+    QString keys = conventions_.showsKeySigns ? shortcut.description(layout) : keyText(keyEquivalent(shortcut, layout));
     const auto id = shortcuts_.hotKeyId(shortcut);
     const auto granted = id ? keyboard_.hotKeys->grantedTrigger(*id) : std::nullopt;
     if (!granted)

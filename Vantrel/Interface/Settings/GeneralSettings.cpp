@@ -37,7 +37,7 @@ QPlainTextEdit *makeExample(const QString &command)
     example->setLayoutDirection(Qt::LeftToRight);
     constexpr int lines = 4;
     const auto margins = static_cast<int>(example->document()->documentMargin()) + example->frameWidth();
-    example->setFixedHeight(example->fontMetrics().lineSpacing() * lines + 2 * margins);
+    example->setFixedHeight((example->fontMetrics().lineSpacing() * lines) + (2 * margins));
     //: What screen readers call the example of a command that opens a link.
     example->setAccessibleName(GeneralSettings::tr("Example"));
     return example;

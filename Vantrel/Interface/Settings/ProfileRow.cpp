@@ -45,10 +45,7 @@ ProfileRow::ProfileRow(const Environment &environment, Content content, QWidget 
     name_->installEventFilter(this);
     connect(name_, &QLineEdit::editingFinished, this, &ProfileRow::commitName);
     connect(hide_, &QToolButton::clicked, this, [this] { Q_EMIT hiddenToggled(!content_.isHidden); });
-    connect(more_, &QToolButton::clicked, this, [this] {
-        const QPoint corner = more_->isRightToLeft() ? more_->rect().bottomRight() : more_->rect().bottomLeft();
-        Q_EMIT menuAsked(more_->mapToGlobal(corner));
-    });
+    connect(more_, &QToolButton::clicked, this, [this] { Q_EMIT menuAsked(menuCorner()); });
     addMoveKeys();
     showContent(content_);
 }
@@ -143,8 +140,8 @@ void ProfileRow::commitName()
 bool ProfileRow::isInUse() const
 {
     const QWidget *focus = QApplication::focusWidget();
-    return isDragged_ || name_->isModified() || (recorder_ && recorder_->isRecording()) ||
-           (focus && isAncestorOf(focus));
+    return isDragged_ || name_->isModified() || (recorder_ != nullptr && recorder_->isRecording()) ||
+           (focus != nullptr && isAncestorOf(focus));
 }
 
 QList<QWidget *> ProfileRow::controls() const
@@ -208,10 +205,15 @@ void ProfileRow::keyPressEvent(QKeyEvent *event)
         QWidget::keyPressEvent(event);
 }
 
+QPoint ProfileRow::menuCorner() const
+{
+    const QRect button = more_->rect();
+    return more_->mapToGlobal(isRightToLeft() ? button.bottomRight() : button.bottomLeft());
+}
+
 void ProfileRow::contextMenuEvent(QContextMenuEvent *event)
 {
-    Q_EMIT menuAsked(event->reason() == QContextMenuEvent::Keyboard ? more_->mapToGlobal(more_->rect().bottomLeft())
-                                                                    : event->globalPos());
+    Q_EMIT menuAsked(event->reason() == QContextMenuEvent::Keyboard ? menuCorner() : event->globalPos());
 }
 
 void ProfileRow::endDrag(bool isDropped)
@@ -247,7 +249,7 @@ void ProfileRow::paintEvent(QPaintEvent * /*event*/)
     const double left = isRightToLeft() ? width() - margin - gap - 2 : margin + 1;
     for (const int column : {0, 1}) {
         for (const int line : {-1, 0, 1})
-            painter.drawEllipse(QPointF(left + column * gap, height() / 2.0 + line * gap), radius, radius);
+            painter.drawEllipse(QPointF(left + (column * gap), (height() / 2.0) + (line * gap)), radius, radius);
     }
 }
 

@@ -84,6 +84,7 @@ private:
     void showContent(const Content &content);
     [[nodiscard]] QWidget *makeCommandButton();
     void addMoveKeys();
+    [[nodiscard]] QPoint menuCorner() const;
     void endDrag(bool isDropped);
 
     Content content_;

@@ -207,7 +207,8 @@ void ProfilesSettings::showMenu(const QString &profileID, const QPoint &place)
     addMove(tr("Move Up"), ProfileMove::Direction::up, Qt::Key_Up);
     //: In a profile's menu: one place in the list of its browser's profiles.
     addMove(tr("Move Down"), ProfileMove::Direction::down, Qt::Key_Down);
-    menu_.popup(place);
+    // Below its button, towards the middle of the window.
+    menu_.popup(isRightToLeft() ? place - QPoint(menu_.sizeHint().width(), 0) : place);
 }
 
 } // namespace vantrel

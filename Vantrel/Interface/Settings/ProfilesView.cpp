@@ -120,8 +120,8 @@ void ProfilesView::arrange()
             offset = scrolled - row->y();
         }
     }
-    SectionLayout former = std::exchange(layout_, measure());
-    canvas_->resize(viewport()->width(), layout_.height() + 2 * margin);
+    const SectionLayout former = std::exchange(layout_, measure());
+    canvas_->resize(viewport()->width(), layout_.height() + (2 * margin));
     placeHeadings();
     const auto position = positionOf(first);
     if (former != layout_ && position)
@@ -132,7 +132,7 @@ void ProfilesView::arrange()
 
 SectionLayout ProfilesView::measure()
 {
-    const int width = viewport()->width() - 2 * margin;
+    const int width = viewport()->width() - (2 * margin);
     QList<SectionLayout::Section> sections;
     for (const BrowserSection &section : std::as_const(sections_)) {
         const Heading &heading = headings_[section.browser.bundleID];
@@ -154,7 +154,7 @@ SectionLayout ProfilesView::measure()
 
 void ProfilesView::place(QWidget *part, int top, int height)
 {
-    part->setGeometry(margin, margin + top, viewport()->width() - 2 * margin, height);
+    part->setGeometry(margin, margin + top, viewport()->width() - (2 * margin), height);
 }
 
 void ProfilesView::placeHeadings()
@@ -165,12 +165,12 @@ void ProfilesView::placeHeadings()
         place(heading.header, layout_.headerTop(section), heading.header->sizeHint().height());
         for (qsizetype index = 0; index < heading.notes.size(); ++index) {
             NoteView *note = heading.notes[index];
-            const int width = viewport()->width() - 2 * margin;
+            const int width = viewport()->width() - (2 * margin);
             place(note, layout_.noteTop(section, index),
                   std::max(note->heightForWidth(width), note->minimumSizeHint().height()));
         }
         if (!sections_[section].profiles.isEmpty()) {
-            groups.append({QRect(margin, margin + layout_.rowsTop(section), viewport()->width() - 2 * margin,
+            groups.append({QRect(margin, margin + layout_.rowsTop(section), viewport()->width() - (2 * margin),
                                  layout_.rowsHeight(section)),
                            layout_.rowHeight()});
         }
@@ -295,7 +295,7 @@ ProfileRow *ProfilesView::showProfile(const QString &profileID)
     const auto position = positionOf(profileID);
     if (!position)
         return nullptr;
-    ensureVisible(margin, margin + layout_.rowTop(*position) + layout_.rowHeight() / 2, 0, layout_.rowHeight());
+    ensureVisible(margin, margin + layout_.rowTop(*position) + (layout_.rowHeight() / 2), 0, layout_.rowHeight());
     showRows();
     return rows_.value(profileID);
 }
@@ -347,8 +347,8 @@ void ProfilesView::drag(const QString &profileID, const QPoint &place)
         dropDestination(height, top, layout_.rowHeight(), sections_[position->section].profiles.size());
     drag_ = Drag{profileID, place, *position, destination};
     constexpr int thickness = 2;
-    canvas_->setDropLine(QRect(margin, margin + layout_.rowTop({position->section, destination}) - thickness / 2,
-                               viewport()->width() - 2 * margin, thickness));
+    canvas_->setDropLine(QRect(margin, margin + layout_.rowTop({position->section, destination}) - (thickness / 2),
+                               viewport()->width() - (2 * margin), thickness));
     constexpr int milliseconds = 30;
     if (!scrolling_.isActive())
         scrolling_.start(milliseconds, this);

@@ -31,8 +31,8 @@ void SymbolButton::setSymbol(const QString &symbol)
 
 QSize SymbolButton::sizeHint() const
 {
-    const int side = std::max(columnWidth, iconSize().width() + 2 * frame);
-    return {side, side + 2 * frame};
+    const int side = std::max(columnWidth, iconSize().width() + (2 * frame));
+    return {side, side + (2 * frame)};
 }
 
 void SymbolButton::changeEvent(QEvent *event)
