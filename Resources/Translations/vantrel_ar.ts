@@ -705,41 +705,41 @@ many profiles it has, and what failed.</source>
     <message>
         <source>Safari Profiles</source>
         <extracomment>Title of a group in the settings.</extracomment>
-        <translation type="unfinished">ملفات Safari الشخصية</translation>
+        <translation>ملفات Safari الشخصية</translation>
     </message>
     <message>
         <source>Accessibility</source>
         <extracomment>macOS&apos;s name for the right to use other programs&apos; menus; what follows is whether Vantrel has it.</extracomment>
-        <translation type="unfinished">تسهيلات الاستخدام</translation>
+        <translation>تسهيلات الاستخدام</translation>
     </message>
     <message>
         <source>Open Privacy Settings…</source>
         <extracomment>Button that opens a page of the system&apos;s settings.</extracomment>
-        <translation type="unfinished">فتح إعدادات الخصوصية…</translation>
+        <translation>فتح إعدادات الخصوصية…</translation>
     </message>
     <message>
         <source>Safari can only be told which profile to open through its File menu, so Vantrel clicks it for you. That needs Accessibility, and macOS asks to let Vantrel control Safari and System Events. Other browsers need neither.</source>
         <extracomment>In the settings, below the state of the permission.</extracomment>
-        <translation type="unfinished">لا يمكن إخبار Safari بالملف الشخصي المطلوب إلا من قائمة «ملف»، ولذلك ينقر Vantrel عليها نيابةً عنك. ويتطلب ذلك تسهيلات الاستخدام، ويطلب macOS السماح لـ Vantrel بالتحكم في Safari وSystem Events. ولا تحتاج المتصفحات الأخرى إلى أيٍّ منهما.</translation>
+        <translation>لا يمكن إخبار Safari بالملف الشخصي المطلوب إلا من قائمة «ملف»، ولذلك ينقر Vantrel عليها نيابةً عنك. ويتطلب ذلك تسهيلات الاستخدام، ويطلب macOS السماح لـ Vantrel بالتحكم في Safari وSystem Events. ولا تحتاج المتصفحات الأخرى إلى أيٍّ منهما.</translation>
     </message>
     <message>
         <source>Links</source>
         <extracomment>Title of a group in the settings.</extracomment>
-        <translation type="unfinished">الروابط</translation>
+        <translation>الروابط</translation>
     </message>
     <message>
         <source>Other apps and scripts can open a profile with a link; Copy Link in a profile&apos;s menu in the Profiles tab gives it. Add `url=` items to open web pages in it:</source>
         <extracomment>In the settings, above an example. Copy Link is in the menu of each profile; “url=” stands in the link.</extracomment>
-        <translation type="unfinished">يمكن للتطبيقات والنصوص البرمجية الأخرى فتح ملف شخصي برابط؛ يعطيه «نسخ الرابط» في قائمة الملف الشخصي ضمن علامة التبويب «الملفات الشخصية». أضف عناصر ⁦`url=`⁩ لفتح صفحات ويب فيه:</translation>
+        <translation>يمكن للتطبيقات والنصوص البرمجية الأخرى فتح ملف شخصي برابط؛ يعطيه «نسخ الرابط» في قائمة الملف الشخصي ضمن علامة التبويب «الملفات الشخصية». أضف عناصر ⁦`url=`⁩ لفتح صفحات ويب فيه:</translation>
     </message>
     <message>
         <source>Allowed</source>
         <extracomment>Whether the user has given a permission.</extracomment>
-        <translation type="unfinished">مسموح</translation>
+        <translation>مسموح</translation>
     </message>
     <message>
         <source>Not allowed</source>
-        <translation type="unfinished">غير مسموح</translation>
+        <translation>غير مسموح</translation>
     </message>
 </context>
 <context>
@@ -747,7 +747,7 @@ many profiles it has, and what failed.</source>
     <message>
         <source>Open %1</source>
         <extracomment>What a global shortcut does, where the desktop lets the user choose its keys. The placeholder is a browser&apos;s and a profile&apos;s name.</extracomment>
-        <translation type="unfinished">فتح ⁨%1⁩</translation>
+        <translation>فتح ⁨%1⁩</translation>
     </message>
 </context>
 <context>

@@ -705,41 +705,41 @@ liegen, wie viele Profile er hat und was fehlgeschlagen ist.</translation>
     <message>
         <source>Safari Profiles</source>
         <extracomment>Title of a group in the settings.</extracomment>
-        <translation type="unfinished">Safari-Profile</translation>
+        <translation>Safari-Profile</translation>
     </message>
     <message>
         <source>Accessibility</source>
         <extracomment>macOS&apos;s name for the right to use other programs&apos; menus; what follows is whether Vantrel has it.</extracomment>
-        <translation type="unfinished">Bedienungshilfen</translation>
+        <translation>Bedienungshilfen</translation>
     </message>
     <message>
         <source>Open Privacy Settings…</source>
         <extracomment>Button that opens a page of the system&apos;s settings.</extracomment>
-        <translation type="unfinished">Datenschutzeinstellungen öffnen&#xa0;…</translation>
+        <translation>Datenschutzeinstellungen öffnen&#xa0;…</translation>
     </message>
     <message>
         <source>Safari can only be told which profile to open through its File menu, so Vantrel clicks it for you. That needs Accessibility, and macOS asks to let Vantrel control Safari and System Events. Other browsers need neither.</source>
         <extracomment>In the settings, below the state of the permission.</extracomment>
-        <translation type="unfinished">In Safari lässt sich ein bestimmtes Profil nur über das Menü „Ablage“ öffnen; das Klicken übernimmt Vantrel. Dafür sind die Bedienungshilfen nötig, und macOS fragt, ob Vantrel Safari und System Events steuern darf. Andere Browser brauchen beides nicht.</translation>
+        <translation>In Safari lässt sich ein bestimmtes Profil nur über das Menü „Ablage“ öffnen; das Klicken übernimmt Vantrel. Dafür sind die Bedienungshilfen nötig, und macOS fragt, ob Vantrel Safari und System Events steuern darf. Andere Browser brauchen beides nicht.</translation>
     </message>
     <message>
         <source>Links</source>
         <extracomment>Title of a group in the settings.</extracomment>
-        <translation type="unfinished">Links</translation>
+        <translation>Links</translation>
     </message>
     <message>
         <source>Other apps and scripts can open a profile with a link; Copy Link in a profile&apos;s menu in the Profiles tab gives it. Add `url=` items to open web pages in it:</source>
         <extracomment>In the settings, above an example. Copy Link is in the menu of each profile; “url=” stands in the link.</extracomment>
-        <translation type="unfinished">Andere Apps und Skripte können ein Profil mit einem Link öffnen; „Link kopieren“ im Menü eines Profils auf der Registerkarte „Profile“ liefert ihn. Mit angehängten `url=`-Einträgen werden Webseiten darin geöffnet:</translation>
+        <translation>Andere Apps und Skripte können ein Profil mit einem Link öffnen; „Link kopieren“ im Menü eines Profils auf der Registerkarte „Profile“ liefert ihn. Mit angehängten `url=`-Einträgen werden Webseiten darin geöffnet:</translation>
     </message>
     <message>
         <source>Allowed</source>
         <extracomment>Whether the user has given a permission.</extracomment>
-        <translation type="unfinished">Erlaubt</translation>
+        <translation>Erlaubt</translation>
     </message>
     <message>
         <source>Not allowed</source>
-        <translation type="unfinished">Nicht erlaubt</translation>
+        <translation>Nicht erlaubt</translation>
     </message>
 </context>
 <context>
@@ -747,7 +747,7 @@ liegen, wie viele Profile er hat und was fehlgeschlagen ist.</translation>
     <message>
         <source>Open %1</source>
         <extracomment>What a global shortcut does, where the desktop lets the user choose its keys. The placeholder is a browser&apos;s and a profile&apos;s name.</extracomment>
-        <translation type="unfinished">%1 öffnen</translation>
+        <translation>%1 öffnen</translation>
     </message>
 </context>
 <context>
