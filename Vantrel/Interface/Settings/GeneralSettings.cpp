@@ -37,6 +37,8 @@ QPlainTextEdit *makeExample(const QString &command)
     example->setLayoutDirection(Qt::LeftToRight);
     constexpr int lines = 4;
     const auto margins = static_cast<int>(example->document()->documentMargin()) + example->frameWidth();
+    // Else its group would take the height that is left.
+    example->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     example->setFixedHeight((example->fontMetrics().lineSpacing() * lines) + (2 * margins));
     //: What screen readers call the example of a command that opens a link.
     example->setAccessibleName(GeneralSettings::tr("Example"));
