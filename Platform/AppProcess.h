@@ -26,4 +26,7 @@ public:
     [[nodiscard]] static std::unique_ptr<AppProcess> create();
 };
 
+/// The arguments with which the app starts for a request.
+[[nodiscard]] QStringList appArguments(const InstanceRequest &request);
+
 } // namespace vantrel

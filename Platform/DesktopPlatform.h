@@ -9,9 +9,11 @@
 #include "Platform/Platform.h"
 #include "Platform/RunningApplications.h"
 #include "Platform/SafariPorts.h"
+#include "Platform/SavePanel.h"
 #include "Platform/StatusItem.h"
 #include "Platform/SymbolImages.h"
 #include "Platform/SystemConventions.h"
+#include "Platform/TrayHost.h"
 #include "Platform/Updater.h"
 #include "Platform/UserDefaults.h"
 
@@ -35,6 +37,10 @@ struct DesktopPlatform {
     std::unique_ptr<Appearance> appearance;
     /// Null where no panel draws menus.
     std::unique_ptr<StatusItem> statusItem;
+    /// Where the symbol is shown when there is no such panel.
+    TrayHost trayHost = TrayHost::plain;
+    /// Null where the toolkit's panel is shown.
+    std::unique_ptr<SavePanel> savePanel;
     /// Null where the system grants access to folders in no such way.
     std::unique_ptr<FolderAccess> folderAccess;
     /// Null where the system itself keeps programs up to date.

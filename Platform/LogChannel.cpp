@@ -4,6 +4,7 @@
 #include "VantrelKit/PrintableText.h"
 
 #include <array>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -38,20 +39,28 @@ QString text(const LogValue &value)
                       value);
 }
 
+void append(LogMessage &message, const QString &text, bool isPrivate)
+{
+    if (!message.isEmpty() && !message.constLast().isPrivate && !isPrivate)
+        message.last().text += text;
+    else
+        message.append({text, isPrivate});
+}
+
 } // namespace
 
-QString logMessage(QLatin1StringView format, const QList<LogValue> &values, bool showsPrivateValues)
+LogMessage logMessage(QLatin1StringView format, const QList<LogValue> &values)
 {
-    QString message;
+    LogMessage message;
     qsizetype next = 0;
     for (qsizetype place = 0; place < format.size();) {
         const Placeholder *placeholder = placeholderAt(format.sliced(place));
         if (!placeholder) {
-            message.append(format.at(place++));
+            append(message, QString(format.sliced(place++, 1)), false);
             continue;
         }
         Q_ASSERT(next < values.size());
-        message.append(placeholder->isPrivate && !showsPrivateValues ? u"<private>"_s : text(values.value(next)));
+        append(message, text(values.value(next)), placeholder->isPrivate);
         ++next;
         place += placeholder->text.size();
     }
@@ -59,19 +68,43 @@ QString logMessage(QLatin1StringView format, const QList<LogValue> &values, bool
     return message;
 }
 
+QString logText(const LogMessage &message, bool showsPrivateParts)
+{
+    QString text;
+    for (const LogPart &part : message)
+        text += part.isPrivate && !showsPrivateParts ? u"<private>"_s : part.text;
+    return text;
+}
+
+LogSections logSections(const LogMessage &message)
+{
+    LogSections sections;
+    // What is public waits until it is known whether something private follows.
+    for (const LogPart &part : message) {
+        if (part.isPrivate)
+            sections.privateText =
+                sections.privateText.value_or(QString()) + std::exchange(sections.after, {}) + part.text;
+        else if (!sections.privateText)
+            sections.before += part.text;
+        else
+            sections.after += part.text;
+    }
+    return sections;
+}
+
 void LogChannel::information(QLatin1StringView format, const QList<LogValue> &values) const
 {
-    sink_.write(LogLevel::information, category_, logMessage(format, values, sink_.showsPrivateValues()));
+    sink_.write(LogLevel::information, category_, logMessage(format, values));
 }
 
 void LogChannel::notice(QLatin1StringView format, const QList<LogValue> &values) const
 {
-    sink_.write(LogLevel::notice, category_, logMessage(format, values, sink_.showsPrivateValues()));
+    sink_.write(LogLevel::notice, category_, logMessage(format, values));
 }
 
 void LogChannel::error(QLatin1StringView format, const QList<LogValue> &values) const
 {
-    sink_.write(LogLevel::error, category_, logMessage(format, values, sink_.showsPrivateValues()));
+    sink_.write(LogLevel::error, category_, logMessage(format, values));
 }
 
 } // namespace vantrel

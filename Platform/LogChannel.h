@@ -5,6 +5,7 @@
 #include <QList>
 #include <QString>
 
+#include <optional>
 #include <variant>
 
 namespace vantrel {
@@ -28,8 +29,23 @@ private:
     QString category_;
 };
 
-/// The message with its values in their places, in the order in which they are given. Private ones are left out unless
-/// they are to be shown; whatever would end the line is written as an escape.
-[[nodiscard]] QString logMessage(QLatin1StringView format, const QList<LogValue> &values, bool showsPrivateValues);
+/// The message with its values in their places, in the order in which they are given. Whatever would end the line is
+/// written as an escape.
+[[nodiscard]] LogMessage logMessage(QLatin1StringView format, const QList<LogValue> &values);
+
+/// The message as one text, with "<private>" for each private part unless they are to be shown.
+[[nodiscard]] QString logText(const LogMessage &message, bool showsPrivateParts);
+
+/// A message as a log takes it that knows just these parts.
+struct LogSections {
+    QString before = {};
+    /// From the first private part to the last one, with what lies between them; none when nothing is private.
+    std::optional<QString> privateText = std::nullopt;
+    QString after = {};
+
+    friend bool operator==(const LogSections &, const LogSections &) = default;
+};
+
+[[nodiscard]] LogSections logSections(const LogMessage &message);
 
 } // namespace vantrel

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QList>
 #include <QString>
 
 #include <cstdint>
@@ -14,16 +15,25 @@ enum class LogLevel : std::uint8_t {
     error,
 };
 
+/// A part of a message.
+struct LogPart {
+    QString text;
+    /// Whether it is for nobody who merely reads the log, such as a link.
+    bool isPrivate = false;
+
+    friend bool operator==(const LogPart &, const LogPart &) = default;
+};
+
+/// One line, in parts of which no two neighbours are both public.
+using LogMessage = QList<LogPart>;
+
 /// The system's log. Any thread.
 class LogSink {
 public:
     virtual ~LogSink() = default;
 
-    /// Whether the user wants to see what would otherwise be left out of the log, such as links.
-    [[nodiscard]] virtual bool showsPrivateValues() const = 0;
-
-    /// `category` is the area of the program, such as "Profiles". The message is one line.
-    virtual void write(LogLevel level, const QString &category, const QString &message) = 0;
+    /// `category` is the area of the program, such as "Profiles".
+    virtual void write(LogLevel level, const QString &category, const LogMessage &message) = 0;
 };
 
 } // namespace vantrel

@@ -1,5 +1,6 @@
 #!/usr/bin/env python3
-"""Checks that modules include only what stands below them, and that only per-system folders ask which system it is."""
+"""Checks that modules include only what stands below them, that only per-system folders ask which system it is, and that
+Apple's headers stay in the sources of those for macOS."""
 from __future__ import annotations
 
 import re
@@ -21,6 +22,10 @@ ALLOWED = {
 SYSTEM_FOLDERS = {"Linux": "Linux", "X11": "Linux", "Portal": "Linux", "MacOS": "MacOS", "Carbon": "MacOS"}
 SYSTEM_MACRO = re.compile(r"\bQ_OS_\w+|\b__APPLE__\b|\b__linux__\b")
 INCLUDE = re.compile(r'^\s*#\s*include\s+"([^"]+)"')
+# In angle brackets, only frameworks and Qt's modules are folders with a capital.
+APPLE_INCLUDE = re.compile(r"^\s*(?:@import\b|#\s*import\b|#\s*include\s+<(?!Qt)(?:[A-Z]\w*|os|malloc|mach|objc|dispatch)/)")
+# The declarations that stand for Apple's where there is no Mac, and what shows that they are good for it.
+APPLE_DECLARATIONS = Path("Tests/MacOS")
 
 
 def system_folder(path: Path) -> str | None:
@@ -49,6 +54,18 @@ def problems(path: Path, text: str) -> list[str]:
     return found
 
 
+def apple_problems(path: Path, text: str) -> list[str]:
+    if path.is_relative_to(APPLE_DECLARATIONS):
+        return []
+    is_for_macos = any(SYSTEM_FOLDERS.get(part) == "MacOS" for part in path.parts)
+    if path.suffix == ".mm" and not is_for_macos:
+        return [f"{path}: Objective-C++ outside the folders for macOS"]
+    if path.suffix != ".h" and is_for_macos:
+        return []
+    return [f"{path}:{number}: only sources in the folders for macOS may include Apple's headers"
+            for number, line in enumerate(text.splitlines(), 1) if APPLE_INCLUDE.match(line)]
+
+
 def main() -> int:
     listed = subprocess.run(
         ["git", "ls-files", "--cached", "--others", "--exclude-standard", "*.h", "*.cpp", "*.mm"],
@@ -57,8 +74,10 @@ def main() -> int:
     found = []
     for name in filter(None, listed):
         path = Path(name)
+        text = (ROOT / path).read_text(encoding="utf-8")
         if path.parts[0] in ALLOWED:
-            found += problems(path, (ROOT / path).read_text(encoding="utf-8"))
+            found += problems(path, text)
+        found += apple_problems(path, text)
     print("\n".join(found), end="\n" if found else "")
     return 1 if found else 0
 

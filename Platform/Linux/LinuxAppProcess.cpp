@@ -3,7 +3,7 @@
 #include "Platform/Linux/DetachedProcess.h"
 #include "Platform/Linux/Instance/InstanceClient.h"
 #include "Platform/Linux/Instance/InstanceSocketPath.h"
-#include "Platform/Linux/OwnPrograms.h"
+#include "Platform/OwnPrograms.h"
 
 #include <QCoreApplication>
 
@@ -20,16 +20,6 @@ PlatformError withoutDisplay()
 {
     //: Error when the menu is wanted where nothing can be shown, as over ssh.
     return {Texts::tr("There is no display here to show the menu on.")};
-}
-
-QStringList argumentsFor(const InstanceRequest &request)
-{
-    switch (request.kind) {
-    case InstanceRequest::Kind::activate: return {};
-    case InstanceRequest::Kind::open: return request.links;
-    case InstanceRequest::Kind::action: return {u"--action"_s, request.action};
-    }
-    Q_UNREACHABLE();
 }
 
 } // namespace
@@ -51,7 +41,7 @@ std::expected<void, PlatformError> LinuxAppProcess::start(const InstanceRequest 
 {
     if (!hasDisplay())
         return std::unexpected(withoutDisplay());
-    return startDetached(QStringList(program_) + argumentsFor(request), variables_.value(u"HOME"_s), variables_);
+    return startDetached(QStringList(program_) + appArguments(request), variables_.value(u"HOME"_s), variables_);
 }
 
 PlatformError LinuxAppProcess::become()

@@ -5,11 +5,11 @@
 #include "Platform/Linux/Instance/LinuxApplicationInstance.h"
 #include "Platform/Linux/LinuxActivationPolicy.h"
 #include "Platform/Linux/LinuxUserDefaults.h"
-#include "Platform/Linux/OwnPrograms.h"
 #include "Platform/Linux/PortalAppearance.h"
 #include "Platform/Linux/Processes/BrowserProcessesThread.h"
 #include "Platform/Linux/StandardErrorLog.h"
 #include "Platform/Linux/StatusItem/StatusNotifierItem.h"
+#include "Platform/OwnPrograms.h"
 
 #include <QFileInfo>
 
@@ -47,6 +47,8 @@ DesktopPlatform DesktopPlatform::create(Platform &platform)
         .symbols = nullptr,
         .appearance = std::make_unique<PortalAppearance>(bus),
         .statusItem = std::make_unique<StatusNotifierItem>(bus, *platform.activation, Environment::from(variables)),
+        .trayHost = TrayHost::plain,
+        .savePanel = nullptr,
         .folderAccess = nullptr,
         .updater = nullptr,
         .conventions = {.linkCommand = u"xdg-open"_s, .showsKeySigns = false},

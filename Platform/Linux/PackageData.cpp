@@ -1,5 +1,6 @@
 #include "Platform/Linux/PackageData.h"
 
+#include "Platform/ChromiumDataFolder.h"
 #include "Platform/Linux/ExecLine.h"
 #include "Platform/Linux/FirefoxRoots.h"
 #include "VantrelKit/ChromiumDiscovery.h"
@@ -65,23 +66,13 @@ QString baseFolder(const BrowserPackage &package, const Environment &environment
     Q_UNREACHABLE();
 }
 
-/// Opera kept the files of its only profile in the data folder itself before it had profiles.
-BrowserDataFolder chromiumFolder(const QString &bundleID, const QString &path)
-{
-    using Layout = BrowserDataFolder::Layout;
-    const bool isOpera = bundleID.startsWith("com.operasoftware."_L1);
-    const bool isSingle = isOpera && !pathExists(joinedPath(path, u"Default/Preferences"_s)) &&
-                          pathExists(joinedPath(path, u"Preferences"_s));
-    return {path, isSingle ? Layout::singleProfile : Layout::manyProfiles};
-}
-
 BrowserDataFolder actualChromiumFolder(const QString &bundleID, const QStringList &candidates)
 {
     const auto isUsed = [&bundleID](const QString &folder) { return holdsProfiles(bundleID, folder); };
     auto chosen = std::ranges::find_if(candidates, isUsed);
     if (chosen == candidates.end())
         chosen = std::ranges::find_if(candidates, pathExists);
-    return chromiumFolder(bundleID, chosen == candidates.end() ? candidates.first() : *chosen);
+    return chromiumDataFolder(bundleID, chosen == candidates.end() ? candidates.first() : *chosen);
 }
 
 QList<BrowserDataFolder> actualFirefoxFolders(const QString &bundleID, const QStringList &candidates)
@@ -153,7 +144,7 @@ QList<BrowserDataFolder> actualDataFolders(const QString &bundleID, const QStrin
         return actualFirefoxFolders(bundleID, candidates);
     // With a single candidate there is nothing to choose, and its folder needn't be read twice.
     if (candidates.size() == 1)
-        return {chromiumFolder(bundleID, candidates.first())};
+        return {chromiumDataFolder(bundleID, candidates.first())};
     return {actualChromiumFolder(bundleID, candidates)};
 }
 

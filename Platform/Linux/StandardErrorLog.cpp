@@ -1,5 +1,7 @@
 #include "Platform/Linux/StandardErrorLog.h"
 
+#include "Platform/LogChannel.h"
+
 #include <sys/stat.h>
 #include <syslog.h>
 #include <unistd.h>
@@ -48,17 +50,17 @@ void writeWhole(QByteArrayView bytes)
 } // namespace
 
 StandardErrorLog::StandardErrorLog(const QProcessEnvironment &variables)
-    : showsPrivateValues_(variables.value(u"VANTREL_LOG_PRIVATE"_s) == "1"_L1),
+    : showsPrivateParts_(variables.value(u"VANTREL_LOG_PRIVATE"_s) == "1"_L1),
       isJournal_(isJournalStream(variables.value(u"JOURNAL_STREAM"_s)))
 {
 }
 
-void StandardErrorLog::write(LogLevel level, const QString &category, const QString &message)
+void StandardErrorLog::write(LogLevel level, const QString &category, const LogMessage &message)
 {
     QByteArray line;
     if (isJournal_)
         line = '<' + QByteArray::number(priority(level)) + '>';
-    line += "app.kestrune.Vantrel [" + category.toUtf8() + "] " + message.toUtf8() + '\n';
+    line += "app.kestrune.Vantrel [" + category.toUtf8() + "] " + logText(message, showsPrivateParts_).toUtf8() + '\n';
     writeWhole(line);
 }
 

@@ -12,11 +12,11 @@ class StandardErrorLog final : public LogSink {
 public:
     explicit StandardErrorLog(const QProcessEnvironment &variables);
 
-    [[nodiscard]] bool showsPrivateValues() const override { return showsPrivateValues_; }
-    void write(LogLevel level, const QString &category, const QString &message) override;
+    void write(LogLevel level, const QString &category, const LogMessage &message) override;
 
 private:
-    bool showsPrivateValues_;
+    /// The user wants to see what is otherwise left out.
+    bool showsPrivateParts_;
     bool isJournal_;
 };
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Platform/LogSink.h"
+#include "Platform/LogChannel.h"
 
 #include <QMutex>
 #include <QStringList>
@@ -10,13 +10,12 @@ namespace vantrel::test {
 /// A log that a test reads: "[Profiles] message", "[Profiles] error: message" and "[Profiles] information: message".
 class FakeLog final : public LogSink {
 public:
-    [[nodiscard]] bool showsPrivateValues() const override { return showsPrivateValues_; }
-    void setShowsPrivateValues(bool shows) { showsPrivateValues_ = shows; }
+    void setShowsPrivateParts(bool shows) { showsPrivateParts_ = shows; }
 
-    void write(LogLevel level, const QString &category, const QString &message) override
+    void write(LogLevel level, const QString &category, const LogMessage &message) override
     {
         const QMutexLocker lock(&mutex_);
-        lines_.append(u'[' + category + QStringLiteral("] ") + mark(level) + message);
+        lines_.append(u'[' + category + QStringLiteral("] ") + mark(level) + logText(message, showsPrivateParts_));
     }
 
     /// The lines since the last time.
@@ -39,7 +38,7 @@ private:
 
     QMutex mutex_;
     QStringList lines_;
-    bool showsPrivateValues_ = false;
+    bool showsPrivateParts_ = false;
 };
 
 } // namespace vantrel::test

@@ -1,5 +1,6 @@
 #include "Platform/LocalFileSystem.h"
 
+#include "Tests/Platform/ExtendedAttribute.h"
 #include "Tests/VantrelKit/TemporaryFolder.h"
 #include "Tests/VantrelKit/UnprivilegedProcess.h"
 
@@ -8,7 +9,6 @@
 
 #include <gtest/gtest.h>
 #include <sys/stat.h>
-#include <sys/xattr.h>
 
 using namespace Qt::StringLiterals;
 
@@ -182,12 +182,11 @@ TEST(LocalFileSystem, AnAttributeIsRemovedOfTheItemItselfAndMayBeMissing)
     const test::TemporaryFolder folder;
     LocalFileSystem files;
     const QString file = folder.write(u"file"_s);
-    const QByteArray path = file.toLocal8Bit();
-    ASSERT_EQ(setxattr(path.constData(), "user.mark", "x", 1, 0), 0) << "This file system has no attributes.";
+    ASSERT_TRUE(test::setAttribute(file, "user.mark")) << "This file system has no attributes.";
     EXPECT_TRUE(files.removeAttribute(folder.link(u"link"_s, file), u"com.apple.quarantine"_s));
-    EXPECT_EQ(getxattr(path.constData(), "user.mark", nullptr, 0), 1);
+    EXPECT_TRUE(test::hasAttribute(file, "user.mark"));
     EXPECT_TRUE(files.removeAttribute(file, u"user.mark"_s));
-    EXPECT_EQ(getxattr(path.constData(), "user.mark", nullptr, 0), -1);
+    EXPECT_FALSE(test::hasAttribute(file, "user.mark"));
     EXPECT_TRUE(files.removeAttribute(file, u"user.mark"_s));
     EXPECT_TRUE(files.removeAttribute(file, u"com.apple.quarantine"_s));
     EXPECT_FALSE(files.removeAttribute(folder.path(u"none"_s), u"user.mark"_s));

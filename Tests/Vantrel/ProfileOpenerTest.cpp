@@ -215,7 +215,7 @@ TEST_F(ProfileOpenerTest, WhatIsNoProfileLinkIsOnlyLoggedAndNotShownThere)
     openLink(u"https://secret.example/"_s);
     openLink(u"vantrel://"_s);
     EXPECT_EQ(log_.takeLines(), QStringList(2, u"[Open] error: Not a profile link: <private>"_s));
-    log_.setShowsPrivateValues(true);
+    log_.setShowsPrivateParts(true);
     openLink(u"https://secret.example/"_s);
     EXPECT_EQ(log_.takeLines(), QStringList(u"[Open] error: Not a profile link: https://secret.example/"_s));
     EXPECT_TRUE(alert_.shown().isEmpty());

@@ -2,21 +2,20 @@
 
 namespace vantrel {
 
-LauncherPlatform &ProfileLaunchers::platform()
+LauncherTools &ProfileLaunchers::tools()
 {
-    if (!platform_)
-        platform_.emplace(LauncherPlatform::create());
-    return *platform_;
+    if (tools_)
+        return *tools_;
+    return tools_.emplace(LauncherPlatform::create());
 }
 
 LauncherMaker &ProfileLaunchers::maker()
 {
-    if (!maker_) {
-        LauncherPlatform &ports = platform();
-        maker_.emplace(LauncherMaker::Environment{*ports.writer, *ports.files, panel_, environment_.activationPolicy,
-                                                  environment_.log});
-    }
-    return *maker_;
+    if (maker_)
+        return *maker_;
+    SavePanel &panel = environment_.panel ? *environment_.panel : ownPanel_;
+    return maker_.emplace(LauncherMaker::Environment{tools().writer(), tools().files(), panel,
+                                                     environment_.activationPolicy, environment_.log});
 }
 
 void ProfileLaunchers::make(const Profile &profile, const ProfileCatalogue &catalogue)
@@ -24,7 +23,7 @@ void ProfileLaunchers::make(const Profile &profile, const ProfileCatalogue &cata
     const Browser *browser = catalogue.browser(profile);
     if (!browser)
         return;
-    const auto browserIcon = [this, url = browser->url](int pixels) { return platform().icons->icon(url, pixels); };
+    const auto browserIcon = [this, url = browser->url](int pixels) { return tools().icons().icon(url, pixels); };
     makeAndTell(profile, catalogue.title(profile),
                 LauncherIcon{browserIcon, ProfileIcon::of(profile, catalogue.displayName(profile))});
 }
@@ -40,7 +39,7 @@ QImage ProfileLaunchers::browserIcon(const QUrl &application, int pixels)
 {
     QImage &icon = icons_[application];
     if (icon.width() != pixels) {
-        icon = platform().icons->icon(application, pixels);
+        icon = tools().icons().icon(application, pixels);
         if (!icon.isNull())
             icon = icon.scaled(pixels, pixels, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
     }

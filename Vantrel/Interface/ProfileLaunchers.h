@@ -1,9 +1,9 @@
 #pragma once
 
-#include "Platform/LauncherPlatform.h"
 #include "Vantrel/FailureAlert.h"
 #include "Vantrel/Interface/FileSavePanel.h"
 #include "Vantrel/Launchers/LauncherMaker.h"
+#include "Vantrel/Launchers/LauncherTools.h"
 #include "Vantrel/ProfileCatalogue.h"
 
 #include <QHash>
@@ -21,6 +21,8 @@ public:
         ActivationPolicy &activationPolicy;
         FailureAlert &alert;
         LogSink &log;
+        /// Null where the toolkit's panel is shown.
+        SavePanel *panel = nullptr;
     };
 
     explicit ProfileLaunchers(const Environment &environment) : environment_(environment) {}
@@ -32,13 +34,13 @@ public:
     [[nodiscard]] QImage browserIcon(const QUrl &application, int pixels);
 
 private:
-    [[nodiscard]] LauncherPlatform &platform();
+    [[nodiscard]] LauncherTools &tools();
     [[nodiscard]] LauncherMaker &maker();
     QCoro::Task<> makeAndTell(Profile profile, QString title, LauncherIcon icon);
 
     Environment environment_;
-    FileSavePanel panel_;
-    std::optional<LauncherPlatform> platform_;
+    FileSavePanel ownPanel_;
+    std::optional<LauncherTools> tools_;
     std::optional<LauncherMaker> maker_;
     /// By the application's URL; one size is shown at a time.
     QHash<QUrl, QImage> icons_;

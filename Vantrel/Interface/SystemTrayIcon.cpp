@@ -9,11 +9,27 @@ using namespace Qt::StringLiterals;
 
 namespace vantrel {
 
-SystemTrayIcon::SystemTrayIcon(PopupMenu &menu) : menu_(menu)
+namespace {
+
+QIcon iconFor(TrayHost host)
 {
-    icon_.setIcon(QIcon(new MenuIconEngine([](int pixels) { return trayImage(pixels, TrayColor::unknown); })));
+    // An outline is there to be seen on either colour; where only the shape counts, it would be part of it.
+    const TrayColor color = host == TrayHost::menuBar ? TrayColor::dark : TrayColor::unknown;
+    QIcon icon(new MenuIconEngine([color](int pixels) { return trayImage(pixels, color); }));
+    icon.setIsMask(host == TrayHost::menuBar);
+    return icon;
+}
+
+} // namespace
+
+SystemTrayIcon::SystemTrayIcon(PopupMenu &menu, TrayHost host) : menu_(menu)
+{
+    icon_.setIcon(iconFor(host));
     icon_.setToolTip(u"Vantrel"_s);
     icon_.setContextMenu(&menu);
+    // It is told of clicks there too, after which the menu is open already.
+    if (host == TrayHost::menuBar)
+        return;
     QObject::connect(&icon_, &QSystemTrayIcon::activated, &icon_,
                      [this](QSystemTrayIcon::ActivationReason reason) { activate(reason); });
 }

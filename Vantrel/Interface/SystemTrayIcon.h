@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Platform/TrayHost.h"
 #include "Vantrel/Interface/PopupMenu.h"
 #include "Vantrel/TrayIcon.h"
 
@@ -11,7 +12,7 @@ namespace vantrel {
 class SystemTrayIcon final : public TrayIcon {
 public:
     /// The menu must outlive it.
-    explicit SystemTrayIcon(PopupMenu &menu);
+    SystemTrayIcon(PopupMenu &menu, TrayHost host);
 
     void show() override { icon_.show(); }
     void hide() override { icon_.hide(); }

@@ -79,12 +79,12 @@ VantrelApp::VantrelApp(Platform &platform, DesktopPlatform &desktop, QString bui
                  profileReader()),
       opener_(store_, {*platform.workspace, alert_, *desktop.log, safari_ ? &safari_->windows() : nullptr}),
       links_(store_, discovery_, opener_),
-      launchers_({*desktop.activationPolicy, alert_, *desktop.log}),
+      launchers_({*desktop.activationPolicy, alert_, *desktop.log, desktop.savePanel.get()}),
       symbols_(desktop.symbols.get()),
       settingsWindows_(*desktop.activationPolicy),
       popup_([this] { return menu(); }),
-      tray_({desktop.statusItem.get(), [this] { return std::make_unique<SystemTrayIcon>(popup_); }, *desktop.log,
-             [this] { tellHomeless(*desktop_.userDefaults); }, [this] { startSoon(); }})
+      tray_({desktop.statusItem.get(), [this] { return std::make_unique<SystemTrayIcon>(popup_, desktop_.trayHost); },
+             *desktop.log, [this] { tellHomeless(*desktop_.userDefaults); }, [this] { startSoon(); }})
 {
     connect(&store_, &ProfileStore::changed, this, &VantrelApp::takeStoreChange);
     // Reading and drawing leave much free memory behind.

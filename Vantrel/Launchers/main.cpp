@@ -1,8 +1,8 @@
-#include "Platform/LauncherPlatform.h"
 #include "Platform/Platform.h"
 #include "Vantrel/CommandLine/CommandProgram.h"
 #include "Vantrel/CommandLine/LauncherCommand.h"
 #include "Vantrel/Launchers/LauncherTask.h"
+#include "Vantrel/Launchers/LauncherTools.h"
 #include "Vantrel/SavedState.h"
 #include "VantrelKit/AvatarThumbnail.h"
 
@@ -21,8 +21,8 @@ QCoro::Task<ExitStatus> runLauncherCommand(QStringList arguments, CommandContext
     auto parsed = CommandArguments::parse(LauncherCommand::syntax(), arguments, context.output);
     if (!parsed)
         co_return parsed.error();
-    const LauncherPlatform platform = LauncherPlatform::create();
-    const LauncherTask task{*platform.writer, *platform.icons};
+    const LauncherTools tools(LauncherPlatform::create());
+    const LauncherTask task{tools.writer(), tools.icons()};
     co_return co_await task.run(*std::move(parsed), context);
 }
 

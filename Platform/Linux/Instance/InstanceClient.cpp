@@ -1,7 +1,7 @@
 #include "Platform/Linux/Instance/InstanceClient.h"
 
+#include "Platform/InstanceMessage.h"
 #include "Platform/Linux/Instance/InstanceFolder.h"
-#include "Platform/Linux/Instance/InstanceMessage.h"
 #include "Platform/Linux/Instance/LocalSocket.h"
 
 #include <QCoreApplication>
@@ -30,18 +30,6 @@ struct Texts {
     Q_DECLARE_TR_FUNCTIONS(InstanceClient)
 };
 
-PlatformError noAnswer()
-{
-    //: Error when the app runs but hangs.
-    return {Texts::tr("Vantrel is running, but doesn't answer.")};
-}
-
-PlatformError refused(const QString &reason)
-{
-    //: Error when the running app can't do what it is asked for. The placeholder is its reason, a sentence.
-    return {Texts::tr("Vantrel is running, but refuses the request. %1").arg(reason)};
-}
-
 void limitConnecting(int socket, const QDeadlineTimer &deadline)
 {
     // Connecting waits for room in the app's queue, as long as sending may take. Zero would be for ever.
@@ -63,7 +51,7 @@ std::expected<OwnedDescriptor, PlatformError> connected(const InstanceFolder &fo
         const int number = errno;
         if (number == ENOENT || number == ECONNREFUSED)
             return OwnedDescriptor();
-        return std::unexpected(number == EAGAIN ? noAnswer() : InstanceFolder::failure(path, number));
+        return std::unexpected(number == EAGAIN ? InstanceMessage::noAnswer() : InstanceFolder::failure(path, number));
     }
     if (!LocalSocket::peerIs(geteuid(), socket.number())) {
         //: Error when another user's program listens where the app should. The placeholder is a path.
@@ -127,9 +115,9 @@ std::expected<Outcome, PlatformError> attempt(const InstanceFolder &folder, cons
         return Outcome::abandoned;
     const auto answer = text ? InstanceMessage::parsedAnswer(*text) : std::nullopt;
     if (!answer)
-        return std::unexpected(noAnswer());
+        return std::unexpected(InstanceMessage::noAnswer());
     if (!answer->isAccepted)
-        return std::unexpected(refused(answer->reason));
+        return std::unexpected(InstanceMessage::refused(answer->reason));
     return Outcome::taken;
 }
 
@@ -153,7 +141,7 @@ std::expected<bool, PlatformError> InstanceClient::send(const InstanceRequest &r
         if (*outcome != Outcome::abandoned)
             return *outcome == Outcome::taken;
     }
-    return std::unexpected(noAnswer());
+    return std::unexpected(InstanceMessage::noAnswer());
 }
 
 } // namespace vantrel

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "Platform/ApplicationInstance.h"
-#include "Platform/Linux/Instance/InstanceMessage.h"
+#include "Platform/InstanceMessage.h"
 #include "Platform/Linux/OwnedDescriptor.h"
 
 #include <QObject>

@@ -1,8 +1,8 @@
 #include "Platform/LauncherPlatform.h"
 #include "Platform/Linux/Launchers/DesktopApplicationIcons.h"
 #include "Platform/Linux/Launchers/DesktopLauncherWriter.h"
-#include "Platform/Linux/OwnPrograms.h"
 #include "Platform/LocalFileSystem.h"
+#include "Platform/OwnPrograms.h"
 
 using namespace Qt::StringLiterals;
 

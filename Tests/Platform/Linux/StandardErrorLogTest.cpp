@@ -59,8 +59,8 @@ TEST(StandardErrorLog, ALineHasSubsystemCategoryAndMessage)
 {
     const CapturedErrors errors;
     StandardErrorLog log({});
-    log.write(LogLevel::notice, u"Open"_s, u"Größe"_s);
-    log.write(LogLevel::error, u"Profiles"_s, u"two"_s);
+    log.write(LogLevel::notice, u"Open"_s, {{u"Größe"_s}});
+    log.write(LogLevel::error, u"Profiles"_s, {{u"two"_s}});
     EXPECT_EQ(errors.text(), "app.kestrune.Vantrel [Open] Größe\napp.kestrune.Vantrel [Profiles] two\n");
 }
 
@@ -68,9 +68,9 @@ TEST(StandardErrorLog, InTheJournalALineBeginsWithItsPriority)
 {
     const CapturedErrors errors;
     StandardErrorLog log(with(u"JOURNAL_STREAM"_s, CapturedErrors::stream()));
-    log.write(LogLevel::notice, u"Open"_s, u"one"_s);
-    log.write(LogLevel::error, u"Open"_s, u"two"_s);
-    log.write(LogLevel::information, u"Open"_s, u"three"_s);
+    log.write(LogLevel::notice, u"Open"_s, {{u"one"_s}});
+    log.write(LogLevel::error, u"Open"_s, {{u"two"_s}});
+    log.write(LogLevel::information, u"Open"_s, {{u"three"_s}});
     EXPECT_EQ(errors.text(), "<5>app.kestrune.Vantrel [Open] one\n<3>app.kestrune.Vantrel [Open] two\n"
                              "<6>app.kestrune.Vantrel [Open] three\n");
 }
@@ -79,15 +79,20 @@ TEST(StandardErrorLog, AnotherProcessesJournalIsNotOurs)
 {
     const CapturedErrors errors;
     for (const QString &stream : QStringList{u"1:2"_s, u""_s, u"junk"_s, CapturedErrors::stream() + u'0'})
-        StandardErrorLog(with(u"JOURNAL_STREAM"_s, stream)).write(LogLevel::error, u"Open"_s, u"x"_s);
+        StandardErrorLog(with(u"JOURNAL_STREAM"_s, stream)).write(LogLevel::error, u"Open"_s, {{u"x"_s}});
     EXPECT_EQ(errors.text(), QByteArray("app.kestrune.Vantrel [Open] x\n").repeated(4));
 }
 
 TEST(StandardErrorLog, PrivateValuesAreShownOnRequestOnly)
 {
-    EXPECT_FALSE(StandardErrorLog({}).showsPrivateValues());
-    EXPECT_TRUE(StandardErrorLog(with(u"VANTREL_LOG_PRIVATE"_s, u"1"_s)).showsPrivateValues());
-    EXPECT_FALSE(StandardErrorLog(with(u"VANTREL_LOG_PRIVATE"_s, u"0"_s)).showsPrivateValues());
+    const CapturedErrors errors;
+    for (const QString &value : {QString(), u"1"_s, u"0"_s}) {
+        const QProcessEnvironment variables = with(u"VANTREL_LOG_PRIVATE"_s, value);
+        StandardErrorLog(variables).write(LogLevel::error, u"Open"_s, {{u"link: "_s}, {u"secret"_s, true}});
+    }
+    EXPECT_EQ(errors.text(), "app.kestrune.Vantrel [Open] link: <private>\n"
+                             "app.kestrune.Vantrel [Open] link: secret\n"
+                             "app.kestrune.Vantrel [Open] link: <private>\n");
 }
 
 } // namespace

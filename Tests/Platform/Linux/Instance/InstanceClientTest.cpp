@@ -1,6 +1,6 @@
 #include "Platform/Linux/Instance/InstanceClient.h"
 
-#include "Platform/Linux/Instance/InstanceMessage.h"
+#include "Platform/InstanceMessage.h"
 #include "Platform/Linux/Instance/LocalSocket.h"
 #include "Tests/Platform/Linux/Instance/AnotherUser.h"
 #include "Tests/Platform/Linux/Instance/RawSocket.h"

@@ -1,10 +1,10 @@
 #include "Platform/Linux/Instance/InstanceListener.h"
 
+#include "Platform/InstanceMessage.h"
 #include "Platform/Linux/Instance/InstanceClient.h"
-#include "Platform/Linux/Instance/InstanceMessage.h"
 #include "Tests/Contract/ApplicationInstanceContract.h"
+#include "Tests/Platform/Beside.h"
 #include "Tests/Platform/Linux/Instance/AnotherUser.h"
-#include "Tests/Platform/Linux/Instance/Beside.h"
 #include "Tests/Platform/Linux/Instance/RawSocket.h"
 
 #include <QDir>

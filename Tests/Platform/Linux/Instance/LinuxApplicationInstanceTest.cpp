@@ -1,9 +1,8 @@
 #include "Platform/Linux/Instance/LinuxApplicationInstance.h"
 
 #include "Tests/Contract/ApplicationInstanceContract.h"
-#include "Tests/Fakes/FakeApplicationInstance.h"
+#include "Tests/Platform/Beside.h"
 #include "Tests/Platform/Linux/Instance/AnotherUser.h"
-#include "Tests/Platform/Linux/Instance/Beside.h"
 #include "Tests/Platform/Linux/Instance/InstanceSession.h"
 #include "Tests/Platform/Linux/PrivateBus.h"
 
@@ -20,25 +19,6 @@ namespace {
 
 using Role = ApplicationInstance::Role;
 using Result = std::expected<Role, PlatformError>;
-
-class FakeSystem {
-public:
-    std::unique_ptr<ApplicationInstance> process() { return std::make_unique<test::FakeApplicationInstance>(session_); }
-
-    Result startAnother(const InstanceRequest &request)
-    {
-        return test::FakeApplicationInstance(session_).start(request, [](const InstanceRequest &) { ADD_FAILURE(); });
-    }
-
-    Result startWhileInstanceHangs(const InstanceRequest &request)
-    {
-        session_.silence();
-        return startAnother(request);
-    }
-
-private:
-    test::FakeApplicationInstance::Session session_;
-};
 
 /// Processes that share a folder, and no bus.
 class SocketSystem {
@@ -114,7 +94,6 @@ private:
 
 namespace test {
 
-INSTANTIATE_TYPED_TEST_SUITE_P(Fake, ApplicationInstanceContract, FakeSystem);
 INSTANTIATE_TYPED_TEST_SUITE_P(Socket, ApplicationInstanceContract, SocketSystem);
 INSTANTIATE_TYPED_TEST_SUITE_P(Bus, ApplicationInstanceContract, BusSystem);
 

@@ -1,0 +1,24 @@
+#pragma once
+
+#include "KeyboardShortcuts/KeyboardLayout.h"
+
+namespace vantrel {
+
+/// The layout that the user has chosen in the input menu, or the one that types ASCII where that is an input method.
+class CarbonKeyboardLayout final : public KeyboardLayout {
+public:
+    CarbonKeyboardLayout() = default;
+    ~CarbonKeyboardLayout() override;
+    Q_DISABLE_COPY_MOVE(CarbonKeyboardLayout)
+
+    [[nodiscard]] std::optional<QString> character(std::uint32_t keyCode) const override;
+    void onChange(std::function<void()> changed) override;
+
+private:
+    void tellChange() const;
+
+    std::function<void()> changed_;
+    bool isObserving_ = false;
+};
+
+} // namespace vantrel

@@ -1,0 +1,30 @@
+# Has CMake believe that it is on a Mac, as far as it takes to write the build's files there: nothing is built with this.
+# The compilers aren't tried, and what was measured of them is said instead.
+set(CMAKE_SYSTEM_NAME Darwin)
+set(CMAKE_SYSTEM_VERSION 23.0)
+set(CMAKE_SYSTEM_PROCESSOR x86_64)
+foreach(language IN ITEMS C CXX OBJCXX)
+  set(CMAKE_${language}_COMPILER ${VANTREL_CLANG})
+  set(CMAKE_${language}_COMPILER_FORCED ON)
+  set(CMAKE_${language}_COMPILER_ID_RUN ON)
+  set(CMAKE_${language}_COMPILER_ID AppleClang)
+  set(CMAKE_${language}_COMPILER_VERSION 15.0)
+  set(CMAKE_${language}_STANDARD_DEFAULT 17)
+  set(CMAKE_${language}_STANDARD_COMPUTED_DEFAULT 17)
+  set(CMAKE_${language}_EXTENSIONS_COMPUTED_DEFAULT ON)
+endforeach()
+get_property(CMAKE_CXX_COMPILE_FEATURES GLOBAL PROPERTY CMAKE_CXX_KNOWN_FEATURES)
+set(CMAKE_SIZEOF_VOID_P 8)
+set(CMAKE_INSTALL_NAME_TOOL /bin/true)
+set(CMAKE_OSX_SYSROOT / CACHE PATH "" FORCE)
+
+# The libraries are this machine's own; where they lie is all that is asked.
+set(CMAKE_FIND_FRAMEWORK NEVER)
+set(CMAKE_FIND_LIBRARY_SUFFIXES .so .a)
+list(APPEND CMAKE_PREFIX_PATH ${VANTREL_LIBRARIES}/cmake)
+list(APPEND CMAKE_LIBRARY_PATH ${VANTREL_LIBRARIES})
+set(CMAKE_MODULE_PATH ${CMAKE_CURRENT_LIST_DIR}/Modules)
+set(HAVE_STDATOMIC ON CACHE BOOL "" FORCE)
+set(QT_HOST_PATH /usr)
+# What builds within this one, which try something, are to know as well.
+list(APPEND CMAKE_TRY_COMPILE_PLATFORM_VARIABLES VANTREL_CLANG VANTREL_LIBRARIES)

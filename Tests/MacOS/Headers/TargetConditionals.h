@@ -1,0 +1,17 @@
+#pragma once
+
+// https://developer.apple.com/documentation/xcode: what a compiler for macOS says of its target.
+#define TARGET_OS_MAC 1
+#define TARGET_OS_OSX 1
+#define TARGET_OS_IPHONE 0
+#define TARGET_OS_IOS 0
+#define TARGET_OS_TV 0
+#define TARGET_OS_WATCH 0
+#define TARGET_OS_VISION 0
+#define TARGET_OS_MACCATALYST 0
+#define TARGET_OS_SIMULATOR 0
+#define TARGET_OS_EMBEDDED 0
+#define TARGET_OS_WIN32 0
+#define TARGET_OS_LINUX 0
+#define TARGET_CPU_X86_64 1
+#define TARGET_CPU_ARM64 0

@@ -1,0 +1,6 @@
+#pragma once
+
+#include_next <errno.h>
+
+// The manual page intro(2).
+#define ENOATTR 93
