@@ -7,9 +7,11 @@
 #include "Platform/LogSink.h"
 #include "Platform/LoginItem.h"
 #include "Platform/Platform.h"
+#include "Platform/ProfileService.h"
 #include "Platform/RunningApplications.h"
 #include "Platform/SafariPorts.h"
 #include "Platform/SavePanel.h"
+#include "Platform/SearchIndex.h"
 #include "Platform/StatusItem.h"
 #include "Platform/SymbolImages.h"
 #include "Platform/SystemConventions.h"
@@ -25,6 +27,10 @@ namespace vantrel {
 /// The ports that only the app needs, beyond those of the command line.
 struct DesktopPlatform {
     std::unique_ptr<LogSink> log;
+    /// Null where other programs don't ask us, but find profiles in the system's index.
+    std::unique_ptr<ProfileService> profileService;
+    /// Null where searches ask us.
+    std::unique_ptr<SearchIndex> searchIndex;
     std::unique_ptr<ApplicationInstance> instance;
     std::unique_ptr<RunningApplications> runningApplications;
     std::unique_ptr<ActivationPolicy> activationPolicy;

@@ -10,10 +10,11 @@ build_packages=(g++ cmake ninja-build ccache pkg-config qt6-base-dev
   qt6-svg-dev qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools qcoro-qt6-dev libsimdjson-dev libglib2.0-dev
   libplist-dev libpng-dev libxcb1-dev libxcb-xkb-dev libxkbcommon-dev libxkbcommon-x11-dev sqlite3)
 test_packages=(libgtest-dev libgmock-dev libbenchmark-dev qt6-image-formats-plugins qt6-translations-l10n clang-19
-  clang-format-19 clang-tidy-19 libclang-19-dev libclang-rt-19-dev llvm-19-dev shellcheck git python3 python3-flake8 python3-yaml
-  desktop-file-utils bubblewrap util-linux jq chromium firefox-esr xvfb openbox xdotool x11-utils imagemagick dbus
-  wmctrl trayer xfce4-panel xdg-utils libglib2.0-bin python3-gi fonts-dejavu-core libxcb-xtest0-dev
-  x11-xkb-utils xdg-desktop-portal icnsutils libplist-utils at-spi2-core gir1.2-atspi-2.0 xclip)
+  clang-format-19 clang-tidy-19 libclang-19-dev libclang-rt-19-dev llvm-19-dev shellcheck git python3 python3-flake8
+  python3-yaml desktop-file-utils bubblewrap util-linux jq chromium firefox-esr xvfb openbox xdotool x11-utils
+  imagemagick dbus wmctrl trayer xfce4-panel xdg-utils libglib2.0-bin python3-gi fonts-dejavu-core libxcb-xtest0-dev
+  x11-xkb-utils xdg-desktop-portal icnsutils libplist-utils at-spi2-core gir1.2-atspi-2.0 xclip
+  bash-completion zsh fish)
 demo_packages=(python3)
 # For macOS, which has sqlite3 and, with Apple's command line tools, clang, git and python3. The last two are for tests.
 brew_formulas=(cmake ninja ccache pkgconf qt simdjson googletest google-benchmark libplist libpng libicns imagemagick)

@@ -1,12 +1,14 @@
 #include "Platform/DesktopPlatform.h"
 #include "Platform/Linux/AutostartEntry.h"
 #include "Platform/Linux/Environment.h"
+#include "Platform/Linux/Instance/ActivationMessage.h"
 #include "Platform/Linux/Instance/InstanceSocketPath.h"
 #include "Platform/Linux/Instance/LinuxApplicationInstance.h"
 #include "Platform/Linux/LinuxActivationPolicy.h"
 #include "Platform/Linux/LinuxUserDefaults.h"
 #include "Platform/Linux/PortalAppearance.h"
 #include "Platform/Linux/Processes/BrowserProcessesThread.h"
+#include "Platform/Linux/Search/BusProfileService.h"
 #include "Platform/Linux/StandardErrorLog.h"
 #include "Platform/Linux/StatusItem/StatusNotifierItem.h"
 #include "Platform/OwnPrograms.h"
@@ -34,9 +36,14 @@ DesktopPlatform DesktopPlatform::create(Platform &platform)
 {
     const QProcessEnvironment variables = QProcessEnvironment::systemEnvironment();
     const QDBusConnection bus = sessionBus(variables);
+    auto profileService = std::make_unique<BusProfileService>(bus, ActivationMessage::objectPath());
+    auto instance = std::make_unique<LinuxApplicationInstance>(bus, instanceSocketPath(variables),
+                                                               InstanceClient::defaultPatience, profileService.get());
     return {
         .log = std::make_unique<StandardErrorLog>(variables),
-        .instance = std::make_unique<LinuxApplicationInstance>(bus, instanceSocketPath(variables)),
+        .profileService = std::move(profileService),
+        .searchIndex = nullptr,
+        .instance = std::move(instance),
         .runningApplications =
             std::make_unique<BrowserProcessesThread>(*platform.browserData, bus, SingletonContext::current()),
         .activationPolicy = std::make_unique<LinuxActivationPolicy>(),

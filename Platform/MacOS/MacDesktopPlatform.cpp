@@ -22,6 +22,8 @@ DesktopPlatform DesktopPlatform::create(Platform &)
 {
     return {
         .log = std::make_unique<UnifiedLog>(),
+        .profileService = nullptr,
+        .searchIndex = nullptr,
         .instance = std::make_unique<MacApplicationInstance>(),
         .runningApplications = std::make_unique<MacRunningApplications>(),
         .activationPolicy = std::make_unique<MacActivationPolicy>(),

@@ -8,6 +8,11 @@
         <extracomment>Error when the menu is wanted where nothing can be shown, as over ssh.</extracomment>
         <translation>لا توجد هنا شاشة لعرض القائمة عليها.</translation>
     </message>
+    <message>
+        <source>Vantrel.app can&apos;t be found. Put it into Applications.</source>
+        <extracomment>Error when the command line can&apos;t find the app.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>Browser</name>
@@ -53,6 +58,14 @@
         <source>There is no launcher of this profile at %1.</source>
         <extracomment>Error when a launcher is to be removed. The placeholder is where it was looked for.</extracomment>
         <translation>لا يوجد مُشغِّل لهذا الملف الشخصي في ‎%1‎.</translation>
+    </message>
+</context>
+<context>
+    <name>BundleWorkspace</name>
+    <message>
+        <source>%1 is no longer a usable application. Check that the browser is installed.</source>
+        <extracomment>Error when a browser was removed or damaged since it was found. The placeholder is its path.</extracomment>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -402,16 +415,6 @@ many profiles it has, and what failed.</source>
 <context>
     <name>InstanceClient</name>
     <message>
-        <source>Vantrel is running, but doesn&apos;t answer.</source>
-        <extracomment>Error when the app runs but hangs.</extracomment>
-        <translation>يعمل Vantrel، لكنه لا يستجيب.</translation>
-    </message>
-    <message>
-        <source>Vantrel is running, but refuses the request. %1</source>
-        <extracomment>Error when the running app can&apos;t do what it is asked for. The placeholder is its reason, a sentence.</extracomment>
-        <translation>يعمل Vantrel، لكنه يرفض الطلب. %1</translation>
-    </message>
-    <message>
         <source>What listens at %1 belongs to another user, so that it can&apos;t be trusted.</source>
         <extracomment>Error when another user&apos;s program listens where the app should. The placeholder is a path.</extracomment>
         <translation>ما يستمع عند ‎%1‎ يخص مستخدمًا آخر، ولذلك لا يمكن الوثوق به.</translation>
@@ -447,6 +450,16 @@ many profiles it has, and what failed.</source>
         <extracomment>Error when the program was updated while it ran, so that the running app doesn&apos;t understand a request.</extracomment>
         <translation>إنه إصدار آخر. أنهِه ثم شغِّله من جديد.</translation>
     </message>
+    <message>
+        <source>Vantrel is running, but doesn&apos;t answer.</source>
+        <extracomment>Error when the app runs but hangs.</extracomment>
+        <translation type="unfinished">يعمل Vantrel، لكنه لا يستجيب.</translation>
+    </message>
+    <message>
+        <source>Vantrel is running, but refuses the request. %1</source>
+        <extracomment>Error when the running app can&apos;t do what it is asked for. The placeholder is its reason, a sentence.</extracomment>
+        <translation type="unfinished">يعمل Vantrel، لكنه يرفض الطلب. %1</translation>
+    </message>
 </context>
 <context>
     <name>KeyEquivalent</name>
@@ -479,6 +492,47 @@ many profiles it has, and what failed.</source>
         <source>Vantrel is starting or ending, but doesn&apos;t get on.</source>
         <extracomment>Error when another start of the app never gets as far as to answer.</extracomment>
         <translation>يبدأ Vantrel أو ينتهي، لكنه لا يتقدم.</translation>
+    </message>
+</context>
+<context>
+    <name>OpenLinksInProfileIntent</name>
+    <message>
+        <source>Open Links in Browser Profile</source>
+        <extracomment>Title of an action that the system offers, in Shortcuts for instance.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Links</source>
+        <extracomment>An action&apos;s parameter.</extracomment>
+        <translation type="unfinished">الروابط</translation>
+    </message>
+    <message>
+        <source>Profile</source>
+        <extracomment>An action&apos;s parameter.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open %1 in %2</source>
+        <extracomment>What an action does. First: links; second: a profile.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>OpenProfileIntent</name>
+    <message>
+        <source>Open Browser Profile</source>
+        <extracomment>Title of an action that the system offers, in Shortcuts for instance.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Profile</source>
+        <extracomment>An action&apos;s parameter.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open %1</source>
+        <extracomment>What an action does. The placeholder is a profile.</extracomment>
+        <translation type="unfinished">فتح ⁨%1⁩</translation>
     </message>
 </context>
 <context>
@@ -536,6 +590,41 @@ many profiles it has, and what failed.</source>
         <source>The Profile Didn&apos;t Open</source>
         <extracomment>Title of the alert when opening a profile fails.</extracomment>
         <translation>لم يُفتح الملف الشخصي</translation>
+    </message>
+</context>
+<context>
+    <name>ProfileRequests</name>
+    <message>
+        <source>Open this browser profile</source>
+        <extracomment>Below a profile that the desktop&apos;s search has found: what choosing it does.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open %1</source>
+        <extracomment>Below a profile that the desktop&apos;s search has found: what choosing it does. The placeholder is a link.</extracomment>
+        <translation type="unfinished">فتح ⁨%1⁩</translation>
+    </message>
+    <message numerus="yes">
+        <source>Open %n links</source>
+        <extracomment>Below a profile that the desktop&apos;s search has found: what choosing it does.</extracomment>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>There is no profile with the id “%1”.</source>
+        <extracomment>Error for another program that asks to open a profile. The placeholder is the profile&apos;s id.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>“%1” is no link that a browser can open: it takes a whole one with http, https or file.</source>
+        <extracomment>Error for another program that asks to open links in a profile.</extracomment>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -672,6 +761,24 @@ many profiles it has, and what failed.</source>
         <source>Vantrel is running, but there is no place for its symbol. Start Vantrel again to open its settings, or give the command “%1” a keyboard shortcut of your desktop to open its menu.</source>
         <extracomment>Notice on desktops without a tray. The placeholder is a command.</extracomment>
         <translation>يعمل Vantrel، لكن لا مكان لرمزه. شغِّل Vantrel مرة أخرى لفتح إعداداته، أو خصِّص للأمر «⁦%1⁩» اختصارًا من بيئة سطح المكتب لفتح قائمته.</translation>
+    </message>
+</context>
+<context>
+    <name>VantrelShortcuts</name>
+    <message>
+        <source>Open Profile</source>
+        <extracomment>Title of an action that the system offers.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open %1 with %2</source>
+        <extracomment>A phrase that the user says to the system. First: a profile; second: the app&apos;s name.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open a profile with %1</source>
+        <extracomment>A phrase that the user says to the system. The placeholder is the app&apos;s name.</extracomment>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>

@@ -79,6 +79,8 @@ VantrelApp::VantrelApp(Platform &platform, DesktopPlatform &desktop, QString bui
                  profileReader()),
       opener_(store_, {*platform.workspace, alert_, *desktop.log, safari_ ? &safari_->windows() : nullptr}),
       links_(store_, discovery_, opener_),
+      requests_({store_, discovery_, opener_, icons_, *platform.activation,
+                 [this] { showSettings(SettingsModel::Tab::profiles); }}),
       launchers_({*desktop.activationPolicy, alert_, *desktop.log, desktop.savePanel.get()}),
       symbols_(desktop.symbols.get()),
       settingsWindows_(*desktop.activationPolicy),
@@ -87,6 +89,14 @@ VantrelApp::VantrelApp(Platform &platform, DesktopPlatform &desktop, QString bui
              *desktop.log, [this] { tellHomeless(*desktop_.userDefaults); }, [this] { startSoon(); }})
 {
     connect(&store_, &ProfileStore::changed, this, &VantrelApp::takeStoreChange);
+    if (desktop_.profileService) {
+        desktop_.profileService->start(requests_);
+        connect(&requests_.titles(), &ProfileTitles::changed, this,
+                [this] { desktop_.profileService->announceChange(); });
+    }
+    if (desktop_.searchIndex)
+        searchIndex_.emplace(
+            ProfileSearchIndex::Environment{requests_.titles(), icons_, *desktop_.searchIndex, clock_, *desktop_.log});
     // Reading and drawing leave much free memory behind.
     connect(&icons_, &ProfileIconCache::prepared, this, [] { ProcessMemory::giveBack(); });
     if (desktop_.statusItem) {

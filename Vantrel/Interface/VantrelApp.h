@@ -1,6 +1,8 @@
 #pragma once
 
 #include "Platform/DesktopPlatform.h"
+#include "Vantrel/Actions/ProfileRequests.h"
+#include "Vantrel/Actions/ProfileSearchIndex.h"
 #include "Vantrel/DiscoveryRuns.h"
 #include "Vantrel/Interface/AlertBox.h"
 #include "Vantrel/Interface/GlobalShortcuts.h"
@@ -66,6 +68,9 @@ private:
     /// Made when the symbol is there, or when somebody asks for them before.
     std::optional<GlobalShortcuts> shortcuts_;
     ProfileIconCache icons_;
+    ProfileRequests requests_;
+    /// None where other programs ask us.
+    std::optional<ProfileSearchIndex> searchIndex_;
     ProfileLaunchers launchers_;
     SymbolIcons symbols_;
     SettingsModel settingsModel_;

@@ -57,9 +57,10 @@ Ownership requestName(const QDBusConnection &bus, const QDeadlineTimer &deadline
 
 } // namespace
 
-BusApplication::BusApplication(QDBusConnection bus, ApplicationInstance::Handler handler)
+BusApplication::BusApplication(QDBusConnection bus, ApplicationInstance::Handler handler, QDBusVirtualObject *others)
     : bus_(std::move(bus)),
-      handler_(std::move(handler))
+      handler_(std::move(handler)),
+      others_(others)
 {
 }
 
@@ -90,13 +91,17 @@ std::expected<ApplicationInstance::Role, PlatformError> BusApplication::start(co
 
 QString BusApplication::introspect(const QString &path) const
 {
-    return path == ActivationMessage::objectPath() ? ActivationMessage::interfaceDescription() : QString();
+    if (path != ActivationMessage::objectPath())
+        return {};
+    return ActivationMessage::interfaceDescription() + (others_ == nullptr ? QString() : others_->introspect(path));
 }
 
 bool BusApplication::handleMessage(const QDBusMessage &message, const QDBusConnection &connection)
 {
     const auto request = ActivationMessage::request(message);
     if (!request) {
+        if (others_ != nullptr && others_->handleMessage(message, connection))
+            return true;
         if (request.error() == ActivationMessage::Problem::otherInterface)
             return false;
         connection.send(message.createErrorReply(request.error() == ActivationMessage::Problem::unknownMethod

@@ -11,8 +11,9 @@ namespace vantrel {
 /// The app on the session bus: its name, by which the bus starts it, and the object that desktops call.
 class BusApplication final : public QDBusVirtualObject {
 public:
-    /// `handler` is called from the event loop, once the name is owned.
-    BusApplication(QDBusConnection bus, ApplicationInstance::Handler handler);
+    /// `handler` is called from the event loop, once the name is owned. `others` has the object's other interfaces, and
+    /// must outlive this; null for none.
+    BusApplication(QDBusConnection bus, ApplicationInstance::Handler handler, QDBusVirtualObject *others = nullptr);
     /// Gives the name up.
     ~BusApplication() override;
     Q_DISABLE_COPY_MOVE(BusApplication)
@@ -28,6 +29,7 @@ public:
 private:
     QDBusConnection bus_;
     ApplicationInstance::Handler handler_;
+    QDBusVirtualObject *others_;
 };
 
 } // namespace vantrel

@@ -13,10 +13,12 @@ struct Texts {
 } // namespace
 
 LinuxApplicationInstance::LinuxApplicationInstance(QDBusConnection bus, QString socketPath,
-                                                   std::chrono::milliseconds patience)
+                                                   std::chrono::milliseconds patience,
+                                                   QDBusVirtualObject *otherInterfaces)
     : bus_(std::move(bus)),
       socketPath_(std::move(socketPath)),
-      patience_(patience)
+      patience_(patience),
+      otherInterfaces_(otherInterfaces)
 {
 }
 
@@ -63,7 +65,7 @@ LinuxApplicationInstance::lockOrHandOver(const InstanceRequest &first)
 std::expected<ApplicationInstance::Role, PlatformError> LinuxApplicationInstance::appear(const InstanceRequest &first,
                                                                                          const Handler &handler)
 {
-    busApplication_ = std::make_unique<BusApplication>(bus_, handler);
+    busApplication_ = std::make_unique<BusApplication>(bus_, handler, otherInterfaces_);
     auto role = busApplication_->start(first, QDeadlineTimer(patience_));
     if (role != Role::only)
         return role;

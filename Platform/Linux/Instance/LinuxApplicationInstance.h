@@ -18,9 +18,11 @@ namespace vantrel {
 /// session bus, where there is one.
 class LinuxApplicationInstance final : public ApplicationInstance {
 public:
-    /// `bus` may be unconnected. `patience` is how long another process may take to answer.
+    /// `bus` may be unconnected. `patience` is how long another process may take to answer. `otherInterfaces` are those
+    /// of the app's object on the bus besides the one for requests, and must outlive this; null for none.
     LinuxApplicationInstance(QDBusConnection bus, QString socketPath,
-                             std::chrono::milliseconds patience = InstanceClient::defaultPatience);
+                             std::chrono::milliseconds patience = InstanceClient::defaultPatience,
+                             QDBusVirtualObject *otherInterfaces = nullptr);
     ~LinuxApplicationInstance() override = default;
     Q_DISABLE_COPY_MOVE(LinuxApplicationInstance)
 
@@ -35,6 +37,7 @@ private:
     QDBusConnection bus_;
     QString socketPath_;
     std::chrono::milliseconds patience_;
+    QDBusVirtualObject *otherInterfaces_;
     // The reverse of the order in which it ends: the next instance may begin once the lock is free.
     InstanceFolder folder_;
     InstanceLock lock_;
