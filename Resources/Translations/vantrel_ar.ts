@@ -11,7 +11,7 @@
     <message>
         <source>Vantrel.app can&apos;t be found. Put it into Applications.</source>
         <extracomment>Error when the command line can&apos;t find the app.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>تعذّر العثور على Vantrel.app. ضعه في مجلد التطبيقات.</translation>
     </message>
 </context>
 <context>
@@ -65,7 +65,7 @@
     <message>
         <source>%1 is no longer a usable application. Check that the browser is installed.</source>
         <extracomment>Error when a browser was removed or damaged since it was found. The placeholder is its path.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>لم يعد ⁨%1⁩ تطبيقًا صالحًا. تحقق من أن المتصفح مثبّت.</translation>
     </message>
 </context>
 <context>
@@ -453,12 +453,12 @@ many profiles it has, and what failed.</source>
     <message>
         <source>Vantrel is running, but doesn&apos;t answer.</source>
         <extracomment>Error when the app runs but hangs.</extracomment>
-        <translation type="unfinished">يعمل Vantrel، لكنه لا يستجيب.</translation>
+        <translation>‏Vantrel يعمل، لكنه لا يستجيب.</translation>
     </message>
     <message>
         <source>Vantrel is running, but refuses the request. %1</source>
         <extracomment>Error when the running app can&apos;t do what it is asked for. The placeholder is its reason, a sentence.</extracomment>
-        <translation type="unfinished">يعمل Vantrel، لكنه يرفض الطلب. %1</translation>
+        <translation>‏Vantrel يعمل، لكنه يرفض الطلب. %1</translation>
     </message>
 </context>
 <context>
@@ -499,22 +499,22 @@ many profiles it has, and what failed.</source>
     <message>
         <source>Open Links in Browser Profile</source>
         <extracomment>Title of an action that the system offers, in Shortcuts for instance.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>فتح الروابط في ملف شخصي للمتصفح</translation>
     </message>
     <message>
         <source>Links</source>
         <extracomment>An action&apos;s parameter.</extracomment>
-        <translation type="unfinished">الروابط</translation>
+        <translation>الروابط</translation>
     </message>
     <message>
         <source>Profile</source>
         <extracomment>An action&apos;s parameter.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>الملف الشخصي</translation>
     </message>
     <message>
         <source>Open %1 in %2</source>
         <extracomment>What an action does. First: links; second: a profile.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>فتح ⁨%1⁩ في ⁨%2⁩</translation>
     </message>
 </context>
 <context>
@@ -522,17 +522,17 @@ many profiles it has, and what failed.</source>
     <message>
         <source>Open Browser Profile</source>
         <extracomment>Title of an action that the system offers, in Shortcuts for instance.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>فتح ملف شخصي للمتصفح</translation>
     </message>
     <message>
         <source>Profile</source>
         <extracomment>An action&apos;s parameter.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>الملف الشخصي</translation>
     </message>
     <message>
         <source>Open %1</source>
         <extracomment>What an action does. The placeholder is a profile.</extracomment>
-        <translation type="unfinished">فتح ⁨%1⁩</translation>
+        <translation>فتح ⁨%1⁩</translation>
     </message>
 </context>
 <context>
@@ -597,34 +597,34 @@ many profiles it has, and what failed.</source>
     <message>
         <source>Open this browser profile</source>
         <extracomment>Below a profile that the desktop&apos;s search has found: what choosing it does.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>فتح هذا الملف الشخصي للمتصفح</translation>
     </message>
     <message>
         <source>Open %1</source>
         <extracomment>Below a profile that the desktop&apos;s search has found: what choosing it does. The placeholder is a link.</extracomment>
-        <translation type="unfinished">فتح ⁨%1⁩</translation>
+        <translation>فتح ⁨%1⁩</translation>
     </message>
     <message numerus="yes">
         <source>Open %n links</source>
         <extracomment>Below a profile that the desktop&apos;s search has found: what choosing it does.</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>فتح %n رابط</numerusform>
+            <numerusform>فتح رابط واحد (%n)</numerusform>
+            <numerusform>فتح رابطين (%n)</numerusform>
+            <numerusform>فتح %n روابط</numerusform>
+            <numerusform>فتح %n رابطًا</numerusform>
+            <numerusform>فتح %n رابط</numerusform>
         </translation>
     </message>
     <message>
         <source>There is no profile with the id “%1”.</source>
         <extracomment>Error for another program that asks to open a profile. The placeholder is the profile&apos;s id.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>لا يوجد ملف شخصي بالمعرّف “⁨%1⁩”.</translation>
     </message>
     <message>
         <source>“%1” is no link that a browser can open: it takes a whole one with http, https or file.</source>
         <extracomment>Error for another program that asks to open links in a profile.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>“⁨%1⁩” ليس رابطًا يمكن لمتصفح فتحه: يلزم رابط كامل يبدأ بـ http أو https أو file.</translation>
     </message>
 </context>
 <context>
@@ -768,17 +768,17 @@ many profiles it has, and what failed.</source>
     <message>
         <source>Open Profile</source>
         <extracomment>Title of an action that the system offers.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>فتح الملف الشخصي</translation>
     </message>
     <message>
         <source>Open %1 with %2</source>
         <extracomment>A phrase that the user says to the system. First: a profile; second: the app&apos;s name.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>فتح ⁨%1⁩ باستخدام ⁨%2⁩</translation>
     </message>
     <message>
         <source>Open a profile with %1</source>
         <extracomment>A phrase that the user says to the system. The placeholder is the app&apos;s name.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>فتح ملف شخصي باستخدام ⁨%1⁩</translation>
     </message>
 </context>
 <context>

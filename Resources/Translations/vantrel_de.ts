@@ -11,7 +11,7 @@
     <message>
         <source>Vantrel.app can&apos;t be found. Put it into Applications.</source>
         <extracomment>Error when the command line can&apos;t find the app.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Vantrel.app wurde nicht gefunden. Das Programm gehört in den Ordner „Programme“.</translation>
     </message>
 </context>
 <context>
@@ -65,7 +65,7 @@
     <message>
         <source>%1 is no longer a usable application. Check that the browser is installed.</source>
         <extracomment>Error when a browser was removed or damaged since it was found. The placeholder is its path.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1 ist kein brauchbares Programm mehr. Ist der Browser noch installiert?</translation>
     </message>
 </context>
 <context>
@@ -453,12 +453,12 @@ liegen, wie viele Profile er hat und was fehlgeschlagen ist.</translation>
     <message>
         <source>Vantrel is running, but doesn&apos;t answer.</source>
         <extracomment>Error when the app runs but hangs.</extracomment>
-        <translation type="unfinished">Vantrel läuft, antwortet aber nicht.</translation>
+        <translation>Vantrel läuft, antwortet aber nicht.</translation>
     </message>
     <message>
         <source>Vantrel is running, but refuses the request. %1</source>
         <extracomment>Error when the running app can&apos;t do what it is asked for. The placeholder is its reason, a sentence.</extracomment>
-        <translation type="unfinished">Vantrel läuft, lehnt die Anfrage aber ab. %1</translation>
+        <translation>Vantrel läuft, lehnt die Anfrage aber ab. %1</translation>
     </message>
 </context>
 <context>
@@ -499,22 +499,22 @@ liegen, wie viele Profile er hat und was fehlgeschlagen ist.</translation>
     <message>
         <source>Open Links in Browser Profile</source>
         <extracomment>Title of an action that the system offers, in Shortcuts for instance.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Links im Browserprofil öffnen</translation>
     </message>
     <message>
         <source>Links</source>
         <extracomment>An action&apos;s parameter.</extracomment>
-        <translation type="unfinished">Links</translation>
+        <translation>Links</translation>
     </message>
     <message>
         <source>Profile</source>
         <extracomment>An action&apos;s parameter.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Profil</translation>
     </message>
     <message>
         <source>Open %1 in %2</source>
         <extracomment>What an action does. First: links; second: a profile.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1 in %2 öffnen</translation>
     </message>
 </context>
 <context>
@@ -522,17 +522,17 @@ liegen, wie viele Profile er hat und was fehlgeschlagen ist.</translation>
     <message>
         <source>Open Browser Profile</source>
         <extracomment>Title of an action that the system offers, in Shortcuts for instance.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Browserprofil öffnen</translation>
     </message>
     <message>
         <source>Profile</source>
         <extracomment>An action&apos;s parameter.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Profil</translation>
     </message>
     <message>
         <source>Open %1</source>
         <extracomment>What an action does. The placeholder is a profile.</extracomment>
-        <translation type="unfinished">%1 öffnen</translation>
+        <translation>%1 öffnen</translation>
     </message>
 </context>
 <context>
@@ -597,30 +597,30 @@ liegen, wie viele Profile er hat und was fehlgeschlagen ist.</translation>
     <message>
         <source>Open this browser profile</source>
         <extracomment>Below a profile that the desktop&apos;s search has found: what choosing it does.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Dieses Browserprofil öffnen</translation>
     </message>
     <message>
         <source>Open %1</source>
         <extracomment>Below a profile that the desktop&apos;s search has found: what choosing it does. The placeholder is a link.</extracomment>
-        <translation type="unfinished">%1 öffnen</translation>
+        <translation>%1 öffnen</translation>
     </message>
     <message numerus="yes">
         <source>Open %n links</source>
         <extracomment>Below a profile that the desktop&apos;s search has found: what choosing it does.</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n Link öffnen</numerusform>
+            <numerusform>%n Links öffnen</numerusform>
         </translation>
     </message>
     <message>
         <source>There is no profile with the id “%1”.</source>
         <extracomment>Error for another program that asks to open a profile. The placeholder is the profile&apos;s id.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Es gibt kein Profil mit der Kennung „%1“.</translation>
     </message>
     <message>
         <source>“%1” is no link that a browser can open: it takes a whole one with http, https or file.</source>
         <extracomment>Error for another program that asks to open links in a profile.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ ist kein Link, den ein Browser öffnen kann: nötig ist ein vollständiger mit http, https oder file.</translation>
     </message>
 </context>
 <context>
@@ -764,17 +764,17 @@ liegen, wie viele Profile er hat und was fehlgeschlagen ist.</translation>
     <message>
         <source>Open Profile</source>
         <extracomment>Title of an action that the system offers.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Profil öffnen</translation>
     </message>
     <message>
         <source>Open %1 with %2</source>
         <extracomment>A phrase that the user says to the system. First: a profile; second: the app&apos;s name.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1 mit %2 öffnen</translation>
     </message>
     <message>
         <source>Open a profile with %1</source>
         <extracomment>A phrase that the user says to the system. The placeholder is the app&apos;s name.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Ein Profil mit %1 öffnen</translation>
     </message>
 </context>
 <context>
