@@ -1,6 +1,6 @@
 #!/usr/bin/env python3
-"""Checks that modules include only what stands below them, that only per-system folders ask which system it is, and that
-Apple's headers stay in the sources of those for macOS."""
+"""Checks that modules include only what stands below them, that only per-system folders ask which system it is, and
+that Apple's headers stay in the sources of those for macOS."""
 from __future__ import annotations
 
 import re
@@ -23,7 +23,9 @@ SYSTEM_FOLDERS = {"Linux": "Linux", "X11": "Linux", "Portal": "Linux", "MacOS": 
 SYSTEM_MACRO = re.compile(r"\bQ_OS_\w+|\b__APPLE__\b|\b__linux__\b")
 INCLUDE = re.compile(r'^\s*#\s*include\s+"([^"]+)"')
 # In angle brackets, only frameworks and Qt's modules are folders with a capital.
-APPLE_INCLUDE = re.compile(r"^\s*(?:@import\b|#\s*import\b|#\s*include\s+<(?!Qt)(?:[A-Z]\w*|os|malloc|mach|objc|dispatch)/)")
+APPLE_INCLUDE = re.compile(
+    r"^\s*(?:@import\b|#\s*import\b|#\s*include\s+<(?!Qt)(?:[A-Z]\w*|os|malloc|mach|objc|dispatch)/)"
+)
 # The declarations that stand for Apple's where there is no Mac, and what shows that they are good for it.
 APPLE_DECLARATIONS = Path("Tests/MacOS")
 

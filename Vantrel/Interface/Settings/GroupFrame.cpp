@@ -1,5 +1,7 @@
 #include "Vantrel/Interface/Settings/GroupFrame.h"
 
+#include "Vantrel/Interface/DarkPalette.h"
+
 namespace vantrel {
 
 QColor groupLineColor(const QPalette &palette)
@@ -14,7 +16,9 @@ void drawGroupFrame(QPainter &painter, const QRect &frame, const QPalette &palet
     constexpr double radius = 6;
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(groupLineColor(palette));
-    painter.setBrush(palette.color(QPalette::Base));
+    const QColor window = palette.color(QPalette::Window);
+    // A dark window's fields are darker than itself: a group is lighter than both.
+    painter.setBrush(isDark(palette) ? window.lighter(125) : palette.color(QPalette::Base));
     painter.drawRoundedRect(QRectF(frame).adjusted(0.5, 0.5, -0.5, -0.5), radius, radius);
 }
 

@@ -49,8 +49,8 @@ TEST_F(BusProfileServiceTest, RefusesWrongCallsAndGoesOn)
     ASSERT_TRUE(QTest::qWaitFor([&wrong] { return wrong.isFinished(); }));
     EXPECT_EQ(wrong.error().name(), u"org.freedesktop.DBus.Error.InvalidArgs"_s);
     EXPECT_EQ(wrong.error().message(), u"GetInitialResultSet takes (as), not (s)."_s);
-    EXPECT_TRUE(call(u"app.kestrune.Vantrel.Close"_s)
-                    .contains(u"UnknownMethod: app.kestrune.Vantrel has no method Close."_s));
+    EXPECT_TRUE(
+        call(u"app.kestrune.Vantrel.Close"_s).contains(u"UnknownMethod: app.kestrune.Vantrel has no method Close."_s));
     EXPECT_TRUE(call(u"org.example.Other.Match"_s, {u"'a'"_s}).startsWith(u"Error:"_s));
     EXPECT_EQ(answers_.takeCalls(), QStringList());
     EXPECT_EQ(call(u"app.kestrune.Vantrel.ListProfiles"_s), u"(@aa{sv} [],)"_s);
