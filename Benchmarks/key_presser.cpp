@@ -11,7 +11,9 @@
 #include <cstdio>
 #include <cstdlib>
 #include <ctime>
+#include <iostream>
 #include <memory>
+#include <ranges>
 #include <sstream>
 #include <string>
 #include <vector>
@@ -44,8 +46,8 @@ public:
             send(XCB_KEY_PRESS, key);
         settle();
         const std::int64_t released = now();
-        for (auto key = keys.rbegin(); key != keys.rend(); ++key)
-            send(XCB_KEY_RELEASE, *key);
+        for (const xcb_keysym_t key : keys | std::views::reverse)
+            send(XCB_KEY_RELEASE, key);
         settle();
         return released;
     }
@@ -71,7 +73,7 @@ private:
         const std::unique_ptr<xcb_get_keyboard_mapping_reply_t, Free> reply(
             xcb_get_keyboard_mapping_reply(connection_, cookie, nullptr));
         if (!reply)
-            std::exit(1);
+            return 0;
         const xcb_keysym_t *first = xcb_get_keyboard_mapping_keysyms(reply.get());
         const xcb_keysym_t *last = first + xcb_get_keyboard_mapping_keysyms_length(reply.get());
         const auto place = std::find(first, last, wanted) - first;
@@ -92,14 +94,12 @@ int main()
         return 1;
     }
     const KeyPresser presser(connection);
-    char line[256];
-    while (std::fgets(line, sizeof line, stdin) != nullptr) {
+    for (std::string line; std::getline(std::cin, line);) {
         std::istringstream words(line);
         std::vector<xcb_keysym_t> keys;
         for (xcb_keysym_t key = 0; words >> key;)
             keys.push_back(key);
-        std::printf("%lld\n", static_cast<long long>(presser.press(keys)));
-        std::fflush(stdout);
+        std::cout << presser.press(keys) << std::endl;
     }
     xcb_disconnect(connection);
     return 0;

@@ -21,6 +21,8 @@
 #include <tuple>
 #include <utility>
 
+#include "Benchmarks/FirstPaint.h"
+
 using namespace Qt::StringLiterals;
 using namespace vantrel;
 
@@ -136,22 +138,6 @@ void countIcons(benchmark::State &state)
     const auto icons = static_cast<double>(profiles().takeWantedIcons());
     state.counters["icons"] = benchmark::Counter(icons, benchmark::Counter::kAvgIterations);
 }
-
-/// Ends the loop once the menu has been painted.
-class FirstPaint final : public QObject {
-public:
-    bool eventFilter(QObject *object, QEvent *event) override
-    {
-        if (event->type() == QEvent::Paint)
-            QMetaObject::invokeMethod(&loop_, &QEventLoop::quit, Qt::QueuedConnection);
-        return QObject::eventFilter(object, event);
-    }
-
-    void wait() { loop_.exec(); }
-
-private:
-    QEventLoop loop_;
-};
 
 void open(PopupMenu &menu)
 {

@@ -4,11 +4,12 @@
 #include "Tests/Vantrel/Interface/Settings/SettingsProgram.h"
 
 #include <QApplication>
-#include <QEventLoop>
 #include <QLoggingCategory>
 #include <QScrollBar>
 
 #include <benchmark/benchmark.h>
+
+#include "Benchmarks/FirstPaint.h"
 
 using namespace Qt::StringLiterals;
 using namespace vantrel;
@@ -28,7 +29,7 @@ DiscoveredProfile discovered(int number)
 test::SettingsProgram &program()
 {
     static test::SettingsProgram program;
-    if (!program.store_.browsers().isEmpty())
+    if (!program.store.browsers().isEmpty())
         return program;
     QList<Browser> browsers;
     DiscoveryResults results;
@@ -40,26 +41,10 @@ test::SettingsProgram &program()
             profiles.append(discovered(number));
         results.insert(id, profiles);
     }
-    program.store_.setBrowsers(browsers);
-    program.store_.apply(results);
+    program.store.setBrowsers(browsers);
+    program.store.apply(results);
     return program;
 }
-
-/// Ends the loop once the window has been painted.
-class FirstPaint final : public QObject {
-public:
-    bool eventFilter(QObject *object, QEvent *event) override
-    {
-        if (event->type() == QEvent::Paint)
-            QMetaObject::invokeMethod(&loop_, &QEventLoop::quit, Qt::QueuedConnection);
-        return QObject::eventFilter(object, event);
-    }
-
-    void wait() { loop_.exec(); }
-
-private:
-    QEventLoop loop_;
-};
 
 std::unique_ptr<SettingsWindow> openSettings()
 {
@@ -102,11 +87,11 @@ void scrolling(benchmark::State &state)
 void change(benchmark::State &state)
 {
     const std::unique_ptr<SettingsWindow> window = openSettings();
-    const Profile profile = program().store_.profiles().first();
+    const Profile profile = program().store.profiles().first();
     bool isHidden = false;
     for ([[maybe_unused]] const auto &iteration : state) {
         isHidden = !isHidden;
-        program().store_.setHidden(isHidden, profile);
+        program().store.setHidden(isHidden, profile);
         QCoreApplication::sendPostedEvents();
     }
 }

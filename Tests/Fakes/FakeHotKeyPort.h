@@ -36,9 +36,7 @@ public:
 
     void listen(Listening listening) override
     {
-        calls_.append(listening == Listening::nothing   ? QStringLiteral("listen to nothing")
-                      : listening == Listening::hotKeys ? QStringLiteral("listen to hotkeys")
-                                                        : QStringLiteral("listen to raw keys"));
+        calls_.append(QStringLiteral("listen to ") + text(listening));
         listening_ = listening;
     }
 
@@ -98,6 +96,16 @@ public:
     [[nodiscard]] const Handlers &handlers() const { return handlers_; }
 
 private:
+    static QString text(Listening listening)
+    {
+        switch (listening) {
+        case Listening::nothing: return QStringLiteral("nothing");
+        case Listening::hotKeys: return QStringLiteral("hotkeys");
+        case Listening::rawKeys: return QStringLiteral("raw keys");
+        }
+        Q_UNREACHABLE();
+    }
+
     using Combination = std::pair<std::uint32_t, std::uint32_t>;
 
     [[nodiscard]] static std::uint32_t modifierOf(std::uint32_t keyCode)

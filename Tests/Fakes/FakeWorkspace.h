@@ -94,7 +94,7 @@ private:
     struct Turn {
         std::deque<std::coroutine_handle<>> &waiting;
 
-        [[nodiscard]] bool await_ready() const noexcept { return false; }
+        [[nodiscard]] static bool await_ready() noexcept { return false; }
         void await_suspend(std::coroutine_handle<> start) { waiting.push_back(start); }
         void await_resume() const noexcept {}
     };

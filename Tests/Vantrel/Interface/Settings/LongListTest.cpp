@@ -16,7 +16,7 @@ class LongListTest : public test::SettingsFixture {
 protected:
     LongListTest()
     {
-        install({chrome, brave});
+        program_.install({chrome, brave});
         discover(brave, numbered(500));
         discover(chrome, numbered(500));
     }
@@ -87,10 +87,10 @@ TEST_F(LongListTest, ARowThatIsInUseStaysWhenItIsScrolledAwayAndTabGoesOnFromIt)
     name(u"b:3"_s)->selectAll();
     QTest::keyClicks(name(u"b:3"_s), u"Home"_s);
     scrollBar()->setValue(scrollBar()->maximum());
-    EXPECT_TRUE(store_.customNames().isEmpty());
+    EXPECT_TRUE(program_.store.customNames().isEmpty());
     QTest::keyClicks(QApplication::focusWidget(), u"!"_s);
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
-    EXPECT_EQ(store_.customNames().value(id(u"b:3"_s)), u"Home!"_s);
+    EXPECT_EQ(program_.store.customNames().value(id(u"b:3"_s)), u"Home!"_s);
     EXPECT_EQ(focused(), u"3"_s);
     EXPECT_LT(scrollBar()->value(), 100);
 }
@@ -106,7 +106,7 @@ TEST_F(LongListTest, WhatIsSeenStaysInPlaceWhenTheListChangesAboveIt)
     EXPECT_EQ(place(top), before);
     discover(brave, numbered(700));
     EXPECT_EQ(place(top), before);
-    store_.apply({{brave, std::unexpected(ProfileDiscoveryError::readFailed(u"/x"_s, u"A reason."_s))}});
+    program_.store.apply({{brave, std::unexpected(ProfileDiscoveryError::readFailed(u"/x"_s, u"A reason."_s))}});
     EXPECT_EQ(place(top), before);
 }
 
@@ -116,7 +116,7 @@ TEST_F(LongListTest, MovingByKeysKeepsTheRowInSight)
     name(u"b:2"_s)->setFocus();
     for (int step = 0; step < 40; ++step)
         QTest::keyClick(window_.get(), Qt::Key_Down, Qt::AltModifier);
-    EXPECT_EQ(store_.profilesOf(brave).indexOf(test::profiles(u"b:2"_s).first()), 42);
+    EXPECT_EQ(program_.store.profilesOf(brave).indexOf(test::profiles(u"b:2"_s).first()), 42);
     const auto *view = window_->findChild<ProfilesView *>();
     const QWidget *focus = QApplication::focusWidget();
     EXPECT_EQ(focused(), u"2"_s);
@@ -136,7 +136,7 @@ TEST_F(LongListTest, ADragNearTheEdgeScrolls)
     QTest::mouseMove(dragged, edge);
     EXPECT_TRUE(QTest::qWaitFor([this] { return scrollBar()->value() > 300; }));
     QTest::mouseRelease(dragged, Qt::LeftButton);
-    EXPECT_GT(store_.profilesOf(brave).indexOf(test::profiles(u"b:0"_s).first()), 15);
+    EXPECT_GT(program_.store.profilesOf(brave).indexOf(test::profiles(u"b:0"_s).first()), 15);
 }
 
 } // namespace

@@ -39,12 +39,12 @@ protected:
 
 TEST_F(ProfilesSettingsTest, WithoutABrowserOnlyTheTextIsThere)
 {
-    store_.setBrowsers({});
+    program_.store.setBrowsers({});
     show();
     EXPECT_TRUE(shows(u"No browser Vantrel knows is installed. It works with Safari, Chrome, Edge, Brave, Vivaldi, "
                       "Opera and other Chromium browsers, Firefox and Zen."_s));
     EXPECT_EQ(rows(), QString());
-    install({chrome});
+    program_.install({chrome});
     discover(chrome, {u"1"_s});
     EXPECT_EQ(rows(), u"c:1 c:private"_s);
     EXPECT_FALSE(shows(u"No browser Vantrel knows is installed. It works with Safari, Chrome, Edge, Brave, Vivaldi, "
@@ -53,16 +53,16 @@ TEST_F(ProfilesSettingsTest, WithoutABrowserOnlyTheTextIsThere)
 
 TEST_F(ProfilesSettingsTest, ASafariThatWasNeverSearchedHasItsButtonAndNoteAndNoRows)
 {
-    store_.setBrowsers({{test::safari, u"Safari"_s, QUrl(), BrowserFamily::safari}});
+    program_.store.setBrowsers({{test::safari, u"Safari"_s, QUrl(), BrowserFamily::safari}});
     show();
     EXPECT_TRUE(shows(u"Safari"_s));
     EXPECT_NE(button(u"Find Profiles"_s), nullptr);
     EXPECT_TRUE(shows(u"Find Profiles opens Safari and reads its profiles from the File menu. macOS asks to allow "
                       "Accessibility and to let Vantrel control Safari and System Events."_s));
     EXPECT_EQ(rows(), QString());
-    ASSERT_TRUE(store_.beginSafariSearch(test::safari));
+    ASSERT_TRUE(program_.store.beginSafariSearch(test::safari));
     EXPECT_FALSE(button(u"Find Profiles"_s)->isEnabled());
-    store_.endSafariSearch(test::safari, QList<ProfileTarget::SafariProfile>{{.name = u"Work"_s, .index = 0}});
+    program_.store.endSafariSearch(test::safari, QList<ProfileTarget::SafariProfile>{{.name = u"Work"_s, .index = 0}});
     EXPECT_EQ(button(u"Find Profiles"_s), nullptr);
     ASSERT_NE(button(u"Find Again"_s), nullptr);
     EXPECT_TRUE(button(u"Find Again"_s)->isEnabled());
@@ -71,10 +71,10 @@ TEST_F(ProfilesSettingsTest, ASafariThatWasNeverSearchedHasItsButtonAndNoteAndNo
 
 TEST_F(ProfilesSettingsTest, RowsShowNamesInTheStoresOrder)
 {
-    install({chrome, brave});
+    program_.install({chrome, brave});
     discover(brave, {u"1"_s});
     discover(chrome, {u"2"_s, u"1"_s});
-    store_.rename(store_.profilesOf(chrome).first(), u"Work & \"Play\""_s);
+    program_.store.rename(program_.store.profilesOf(chrome).first(), u"Work & \"Play\""_s);
     show();
     EXPECT_EQ(rows(), u"b:1 b:private c:2 c:1 c:private"_s);
     EXPECT_EQ(name(u"c:2"_s)->text(), u"Work & \"Play\""_s);
@@ -89,14 +89,14 @@ TEST_F(ProfilesSettingsTest, ANameReachesTheStoreWhenItIsCommitted)
     click(name(u"c:1"_s));
     name(u"c:1"_s)->selectAll();
     QTest::keyClicks(name(u"c:1"_s), u"  Home "_s);
-    EXPECT_TRUE(store_.customNames().isEmpty());
+    EXPECT_TRUE(program_.store.customNames().isEmpty());
     QTest::keyClick(name(u"c:1"_s), Qt::Key_Return);
-    EXPECT_EQ(store_.customNames().value(id(u"c:1"_s)), u"Home"_s);
+    EXPECT_EQ(program_.store.customNames().value(id(u"c:1"_s)), u"Home"_s);
     EXPECT_EQ(name(u"c:1"_s)->text(), u"Home"_s);
     name(u"c:1"_s)->selectAll();
     QTest::keyClick(name(u"c:1"_s), Qt::Key_Delete);
     QTest::keyClick(name(u"c:1"_s), Qt::Key_Tab);
-    EXPECT_TRUE(store_.customNames().isEmpty());
+    EXPECT_TRUE(program_.store.customNames().isEmpty());
     EXPECT_EQ(name(u"c:1"_s)->text(), u"1"_s);
 }
 
@@ -110,13 +110,13 @@ TEST_F(ProfilesSettingsTest, EscapeGivesTheNameBackAndClosingKeepsIt)
     EXPECT_EQ(name(u"c:1"_s)->text(), u"1"_s);
     QTest::keyClicks(name(u"c:1"_s), u"Home"_s);
     window_->close();
-    EXPECT_EQ(store_.customNames().value(id(u"c:1"_s)), u"Home"_s);
+    EXPECT_EQ(program_.store.customNames().value(id(u"c:1"_s)), u"Home"_s);
     show();
     name(u"c:1"_s)->setFocus();
     name(u"c:1"_s)->selectAll();
     QTest::keyClicks(name(u"c:1"_s), u"At home"_s);
     window_.reset();
-    EXPECT_EQ(store_.customNames().value(id(u"c:1"_s)), u"At home"_s);
+    EXPECT_EQ(program_.store.customNames().value(id(u"c:1"_s)), u"At home"_s);
 }
 
 TEST_F(ProfilesSettingsTest, ChangesElsewhereShowAtOnceAndLeaveAnEditAlone)
@@ -126,7 +126,8 @@ TEST_F(ProfilesSettingsTest, ChangesElsewhereShowAtOnceAndLeaveAnEditAlone)
     name(u"c:1"_s)->setFocus();
     name(u"c:1"_s)->selectAll();
     QTest::keyClicks(name(u"c:1"_s), u"Ho"_s);
-    store_.apply({{chrome, QList<DiscoveredProfile>{{u"0"_s, u"0"_s}, {u"One"_s, u"1"_s}, {u"Two"_s, u"2"_s}}}});
+    program_.store.apply(
+        {{chrome, QList<DiscoveredProfile>{{u"0"_s, u"0"_s}, {u"One"_s, u"1"_s}, {u"Two"_s, u"2"_s}}}});
     EXPECT_EQ(rows(), u"c:1=One c:2=Two c:0 c:private"_s);
     EXPECT_EQ(name(u"c:2"_s)->text(), u"Two"_s);
     EXPECT_TRUE(name(u"c:1"_s)->hasFocus());
@@ -134,7 +135,7 @@ TEST_F(ProfilesSettingsTest, ChangesElsewhereShowAtOnceAndLeaveAnEditAlone)
     EXPECT_EQ(name(u"c:1"_s)->text(), u"Home"_s);
     EXPECT_EQ(name(u"c:1"_s)->placeholderText(), u"One"_s);
     QTest::keyClick(name(u"c:1"_s), Qt::Key_Return);
-    EXPECT_EQ(store_.customNames().value(id(u"c:1"_s)), u"Home"_s);
+    EXPECT_EQ(program_.store.customNames().value(id(u"c:1"_s)), u"Home"_s);
 }
 
 TEST_F(ProfilesSettingsTest, AnEditOfAProfileThatGoesIsKept)
@@ -158,13 +159,13 @@ TEST_F(ProfilesSettingsTest, HidingKeepsTheRowAndTakesTheProfileFromTheMenu)
     EXPECT_GE(hideButton(u"c:1"_s)->width(), 20);
     const QImage shown = hideButton(u"c:1"_s)->icon().pixmap(32).toImage();
     click(hideButton(u"c:1"_s));
-    EXPECT_EQ(store_.hidden(), QSet<QString>{id(u"c:1"_s)});
-    EXPECT_EQ(test::notation(store_.menuSections().first().profiles), u"c:private"_s);
+    EXPECT_EQ(program_.store.hidden(), QSet<QString>{id(u"c:1"_s)});
+    EXPECT_EQ(test::notation(program_.store.menuSections().first().profiles), u"c:private"_s);
     ASSERT_NE(row(u"c:1"_s), nullptr);
     EXPECT_EQ(hideButton(u"c:1"_s)->toolTip(), u"Show in the menu"_s);
     EXPECT_NE(hideButton(u"c:1"_s)->icon().pixmap(32).toImage(), shown);
     click(hideButton(u"c:1"_s));
-    EXPECT_TRUE(store_.hidden().isEmpty());
+    EXPECT_TRUE(program_.store.hidden().isEmpty());
     EXPECT_EQ(hideButton(u"c:1"_s)->icon().pixmap(32).toImage(), shown);
 }
 
@@ -194,14 +195,14 @@ TEST_F(ProfilesSettingsTest, OpenOpensTheProfile)
     show();
     click(moreButton(u"c:1"_s));
     choose(u"Open"_s);
-    ASSERT_EQ(workspace_.openings().size(), 1);
-    EXPECT_EQ(workspace_.openings().first().arguments, QStringList{u"--profile-directory=1"_s});
+    ASSERT_EQ(program_.workspace.openings().size(), 1);
+    EXPECT_EQ(program_.workspace.openings().first().arguments, QStringList{u"--profile-directory=1"_s});
 }
 
 TEST_F(ProfilesSettingsTest, CopyLinkNamesTheProfileAsItsBrowserDoes)
 {
     discover(chrome, {u"1"_s});
-    store_.rename(store_.profiles().first(), u"Mine"_s);
+    program_.store.rename(program_.store.profiles().first(), u"Mine"_s);
     show();
     click(moreButton(u"c:1"_s));
     choose(u"Copy Link"_s);
@@ -233,7 +234,7 @@ TEST_F(ProfilesSettingsTest, AltUpAndDownMoveTheRowThatHasTheFocus)
 
 TEST_F(ProfilesSettingsTest, DraggingMovesARowWithinItsBrowser)
 {
-    install({chrome, brave});
+    program_.install({chrome, brave});
     discover(brave, {u"1"_s});
     discover(chrome, {u"1"_s, u"2"_s, u"3"_s});
     show();
@@ -255,26 +256,26 @@ TEST_F(ProfilesSettingsTest, DraggingMovesARowWithinItsBrowser)
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
     release();
     EXPECT_EQ(rows(), u"b:1 b:private c:3 c:2 c:1 c:private"_s);
-    EXPECT_EQ(log_.takeLines().filter(u"moved"_s).size(), 2);
+    EXPECT_EQ(program_.log.takeLines().filter(u"moved"_s).size(), 2);
 }
 
 TEST_F(ProfilesSettingsTest, RecordersAreThoseOfTheProfiles)
 {
     discover(chrome, {u"1"_s, u"2"_s});
-    hotkeys_.start();
+    program_.hotkeys.start();
     show();
     auto *recorder = row(u"c:1"_s)->findChild<ShortcutRecorder *>();
     ASSERT_NE(recorder, nullptr);
     const ShortcutName one{u"profile."_s + id(u"c:1"_s)};
-    shortcuts_.setShortcut(Shortcut{35, CarbonModifier::control | CarbonModifier::option}, one);
+    program_.shortcuts.setShortcut(Shortcut{35, CarbonModifier::control | CarbonModifier::option}, one);
     EXPECT_NE(button(u"Ctrl+Alt+P"_s), nullptr);
-    EXPECT_EQ(hotKeys_.keys().ids().size(), 1);
+    EXPECT_EQ(program_.hotKeys.keys().ids().size(), 1);
     click(button(u"Ctrl+Alt+P"_s));
     EXPECT_TRUE(recorder->isRecording());
-    EXPECT_TRUE(hotKeys_.keys().ids().isEmpty());
+    EXPECT_TRUE(program_.hotKeys.keys().ids().isEmpty());
     window_->close();
     EXPECT_FALSE(recorder->isRecording());
-    EXPECT_EQ(hotKeys_.keys().ids().size(), 1);
+    EXPECT_EQ(program_.hotKeys.keys().ids().size(), 1);
 }
 
 TEST_F(ProfilesSettingsTest, WithoutHotkeysTheCommandIsOffered)
@@ -282,15 +283,15 @@ TEST_F(ProfilesSettingsTest, WithoutHotkeysTheCommandIsOffered)
     discover(chrome, {u"1"_s});
     show();
     EXPECT_EQ(button(u"Copy Command"_s), nullptr);
-    hotKeys_.setAvailability(DesktopHotKeys::Availability::notAvailable);
+    program_.hotKeys.setAvailability(DesktopHotKeys::Availability::notAvailable);
     window_->takeKeyboardChange();
     EXPECT_EQ(row(u"c:1"_s)->findChild<ShortcutRecorder *>(), nullptr);
     ASSERT_NE(button(u"Copy Command"_s), nullptr);
     click(row(u"c:1"_s)->findChild<QPushButton *>());
     EXPECT_EQ(QGuiApplication::clipboard()->text(), u"vantrel open 'com.google.Chrome/chromium:1'"_s);
-    ASSERT_TRUE(texts_.note().has_value());
-    EXPECT_TRUE(QTest::qWaitFor([this] { return shows(texts_.note()->text); }));
-    hotKeys_.setAvailability(DesktopHotKeys::Availability::available);
+    ASSERT_TRUE(program_.texts.note().has_value());
+    EXPECT_TRUE(QTest::qWaitFor([this] { return shows(program_.texts.note()->text); }));
+    program_.hotKeys.setAvailability(DesktopHotKeys::Availability::available);
     window_->takeKeyboardChange();
     EXPECT_EQ(button(u"Copy Command"_s), nullptr);
     EXPECT_NE(row(u"c:1"_s)->findChild<ShortcutRecorder *>(), nullptr);
@@ -298,13 +299,13 @@ TEST_F(ProfilesSettingsTest, WithoutHotkeysTheCommandIsOffered)
 
 TEST_F(ProfilesSettingsTest, AFolderThatCantBeReadHasANoteAndCanBeReadAgain)
 {
-    data_.setFolder(chrome, u"/nowhere/chrome"_s);
-    store_.apply({{chrome, std::unexpected(ProfileDiscoveryError::accessDenied(u"/nowhere/chrome"_s))}});
+    program_.data.setFolder(chrome, u"/nowhere/chrome"_s);
+    program_.store.apply({{chrome, std::unexpected(ProfileDiscoveryError::accessDenied(u"/nowhere/chrome"_s))}});
     show();
     ASSERT_NE(button(u"Try Again"_s), nullptr);
     EXPECT_NE(button(u"Try Again"_s)->accessibleDescription().indexOf(u"/nowhere/chrome"_s), -1);
     click(button(u"Try Again"_s));
-    EXPECT_TRUE(QTest::qWaitFor([this] { return discovery_.isIdle(); }));
+    EXPECT_TRUE(QTest::qWaitFor([this] { return program_.discovery.isIdle(); }));
     // A folder that isn't there has no profiles, which is no failure.
     EXPECT_EQ(button(u"Try Again"_s), nullptr);
 }

@@ -13,9 +13,9 @@
 namespace vantrel::test {
 
 /// The settings window of a program whose every port is played by the test. Chrome is installed at first.
-class SettingsFixture : public testing::Test, protected SettingsProgram {
+class SettingsFixture : public testing::Test {
 protected:
-    SettingsFixture() { install({chrome}); }
+    SettingsFixture() { program_.install({chrome}); }
 
     /// What the browser has from now on, by the names of its profiles, which are their folders' names too.
     void discover(const QString &bundleID, const QStringList &names)
@@ -23,13 +23,13 @@ protected:
         QList<DiscoveredProfile> profiles;
         for (const QString &name : names)
             profiles.append({name, name});
-        store_.apply({{bundleID, profiles}});
+        program_.store.apply({{bundleID, profiles}});
     }
 
     void show(SettingsModel::Tab tab = SettingsModel::Tab::profiles)
     {
-        model_.setTab(tab);
-        window_ = std::make_unique<SettingsWindow>(settings());
+        program_.model.setTab(tab);
+        window_ = std::make_unique<SettingsWindow>(program_.settings());
         window_->show();
         window_->activateWindow();
         ASSERT_TRUE(QTest::qWaitForWindowActive(window_.get()));
@@ -68,7 +68,7 @@ protected:
         std::ranges::sort(visible, {}, [](const ProfileRow *each) { return each->y(); });
         QList<Profile> shown;
         for (const ProfileRow *each : visible) {
-            const auto found = std::ranges::find(store_.profiles(), each->profileID(), &Profile::id);
+            const auto found = std::ranges::find(program_.store.profiles(), each->profileID(), &Profile::id);
             shown.append(*found);
         }
         return test::notation(shown);
@@ -94,6 +94,7 @@ protected:
 
     static void click(QWidget *widget) { QTest::mouseClick(widget, Qt::LeftButton); }
 
+    SettingsProgram program_;
     std::unique_ptr<SettingsWindow> window_;
 };
 

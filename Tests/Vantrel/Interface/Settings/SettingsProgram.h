@@ -38,53 +38,52 @@ struct SettingsProgram {
     void install(const QStringList &bundleIDs)
     {
         for (const QString &bundleID : bundleIDs)
-            workspace_.install(bundleID, bundleID);
-        store_.setBrowsers(installedBrowsers(workspace_, bundleIDs));
+            workspace.install(bundleID, bundleID);
+        store.setBrowsers(installedBrowsers(workspace, bundleIDs));
     }
 
     [[nodiscard]] SettingsWindow::Environment settings()
     {
         return {
-            .model = model_,
-            .windows = windows_,
-            .profiles = {store_, discovery_, opener_, shortcuts_, hotkeys_, texts_, icons_, launchers_, data_,
-                         symbols_},
-            .general = {.store = store_,
-                        .alert = alert_,
-                        .conventions = conventions_,
-                        .accessibility = hasSafari_ ? &accessibility_ : nullptr,
-                        .loginItem = &loginItem_,
-                        .updater = hasUpdater_ ? &updater_ : nullptr},
+            .model = model,
+            .windows = windows,
+            .profiles = {store, discovery, opener, shortcuts, hotkeys, texts, icons, launchers, data, symbols},
+            .general = {.store = store,
+                        .alert = alert,
+                        .conventions = conventions,
+                        .accessibility = hasSafari ? &accessibility : nullptr,
+                        .loginItem = &loginItem,
+                        .updater = hasUpdater ? &updater : nullptr},
             .build = QStringLiteral("42"),
         };
     }
 
-    FakeWorkspace workspace_;
-    FakeBrowserData data_;
-    FakeRunningApplications running_;
-    FakeLog log_;
-    FakeAlert alert_;
-    FakeUserDefaults defaults_;
-    FakeLoginItem loginItem_;
-    FakeUpdater updater_;
-    FakeAccessibilityTrust accessibility_;
-    CountedPolicy policy_;
-    bool hasSafari_ = false;
-    bool hasUpdater_ = false;
-    SystemConventions conventions_{.linkCommand = QStringLiteral("xdg-open")};
-    DesktopKeyboard keyboard_{std::make_unique<FakeDesktopHotKeys>(), std::make_unique<FakeKeyboardLayout>()};
-    FakeDesktopHotKeys &hotKeys_ = static_cast<FakeDesktopHotKeys &>(*keyboard_.hotKeys);
-    KeyboardShortcuts shortcuts_{{defaults_, *keyboard_.hotKeys, *keyboard_.layout}};
-    ProfileStore store_{QString(), log_, ProfileStore::Liveness::detached};
-    DiscoveryRuns discovery_{store_, {workspace_, data_, running_}, ProfileReader()};
-    ProfileOpener opener_{store_, {workspace_, alert_, log_}};
-    ProfileHotkeys hotkeys_{store_, opener_, shortcuts_};
-    ShortcutTexts texts_{shortcuts_, keyboard_, conventions_};
-    ProfileIconCache icons_;
-    ProfileLaunchers launchers_{{policy_, alert_, log_}};
-    SymbolIcons symbols_{nullptr};
-    SettingsModel model_;
-    SettingsWindows windows_{policy_};
+    FakeWorkspace workspace;
+    FakeBrowserData data;
+    FakeRunningApplications running;
+    FakeLog log;
+    FakeAlert alert;
+    FakeUserDefaults defaults;
+    FakeLoginItem loginItem;
+    FakeUpdater updater;
+    FakeAccessibilityTrust accessibility;
+    CountedPolicy policy;
+    bool hasSafari = false;
+    bool hasUpdater = false;
+    SystemConventions conventions{.linkCommand = QStringLiteral("xdg-open")};
+    DesktopKeyboard keyboard{std::make_unique<FakeDesktopHotKeys>(), std::make_unique<FakeKeyboardLayout>()};
+    FakeDesktopHotKeys &hotKeys = static_cast<FakeDesktopHotKeys &>(*keyboard.hotKeys);
+    KeyboardShortcuts shortcuts{{defaults, *keyboard.hotKeys, *keyboard.layout}};
+    ProfileStore store{QString(), log, ProfileStore::Liveness::detached};
+    DiscoveryRuns discovery{store, {workspace, data, running}, ProfileReader()};
+    ProfileOpener opener{store, {workspace, alert, log}};
+    ProfileHotkeys hotkeys{store, opener, shortcuts};
+    ShortcutTexts texts{shortcuts, keyboard, conventions};
+    ProfileIconCache icons;
+    ProfileLaunchers launchers{{policy, alert, log}};
+    SymbolIcons symbols{nullptr};
+    SettingsModel model;
+    SettingsWindows windows{policy};
 };
 
 } // namespace vantrel::test

@@ -45,16 +45,16 @@ protected:
 TEST_F(SettingsWindowTest, CountsFromBeingShownToBeingClosed)
 {
     show();
-    EXPECT_TRUE(policy_.isRegular());
-    EXPECT_EQ(policy_.activations(), 1);
+    EXPECT_TRUE(program_.policy.isRegular());
+    EXPECT_EQ(program_.policy.activations(), 1);
     window_->hide();
     window_->show();
-    EXPECT_EQ(windows_.count(), 1);
+    EXPECT_EQ(program_.windows.count(), 1);
     window_->close();
-    EXPECT_EQ(windows_.count(), 0);
-    EXPECT_FALSE(policy_.isRegular());
+    EXPECT_EQ(program_.windows.count(), 0);
+    EXPECT_FALSE(program_.policy.isRegular());
     window_->show();
-    EXPECT_EQ(windows_.count(), 1);
+    EXPECT_EQ(program_.windows.count(), 1);
 }
 
 TEST_F(SettingsWindowTest, HasThreeTabsAndFollowsTheModel)
@@ -68,10 +68,10 @@ TEST_F(SettingsWindowTest, HasThreeTabsAndFollowsTheModel)
     }
     EXPECT_EQ(labels, (QStringList{u"Profiles"_s, u"General"_s, u"About"_s}));
     EXPECT_EQ(tabs()->currentIndex(), 1);
-    model_.setTab(Tab::profiles);
+    program_.model.setTab(Tab::profiles);
     EXPECT_EQ(tabs()->currentIndex(), 0);
     tabs()->setCurrentIndex(2);
-    EXPECT_EQ(model_.tab(), Tab::about);
+    EXPECT_EQ(program_.model.tab(), Tab::about);
 }
 
 TEST_F(SettingsWindowTest, AboutNamesTheProgramAndItsVersion)
@@ -95,8 +95,8 @@ TEST_F(SettingsWindowTest, GeneralShowsNothingThatThereIsNot)
 
 TEST_F(SettingsWindowTest, GeneralShowsWhetherSafarisMenusMayBeUsedAndReadsItAgain)
 {
-    hasSafari_ = true;
-    accessibility_.setTrusted(false);
+    program_.hasSafari = true;
+    program_.accessibility.setTrusted(false);
     show(Tab::general);
     EXPECT_TRUE(shows(u"Safari Profiles"_s));
     EXPECT_TRUE(shows(u"Accessibility"_s));
@@ -105,8 +105,8 @@ TEST_F(SettingsWindowTest, GeneralShowsWhetherSafarisMenusMayBeUsedAndReadsItAga
     EXPECT_TRUE(shows(u"Safari can only be told which profile to open through its File menu, so Vantrel clicks it for "
                       "you. That needs Accessibility, and macOS asks to let Vantrel control Safari and System Events. "
                       "Other browsers need neither."_s));
-    EXPECT_EQ(accessibility_.questions(), 0);
-    accessibility_.setTrusted(true);
+    EXPECT_EQ(program_.accessibility.questions(), 0);
+    program_.accessibility.setTrusted(true);
     QWidget other;
     other.show();
     other.activateWindow();
@@ -114,7 +114,7 @@ TEST_F(SettingsWindowTest, GeneralShowsWhetherSafarisMenusMayBeUsedAndReadsItAga
     window_->activateWindow();
     ASSERT_TRUE(QTest::qWaitForWindowActive(window_.get()));
     EXPECT_TRUE(shows(u"Allowed"_s));
-    accessibility_.setTrusted(false);
+    program_.accessibility.setTrusted(false);
     tabs()->setCurrentIndex(0);
     tabs()->setCurrentIndex(1);
     EXPECT_TRUE(shows(u"Not allowed"_s));
@@ -131,7 +131,7 @@ TEST_F(SettingsWindowTest, GeneralShowsHowALinkIsOpened)
     auto *example = window_->findChild<QPlainTextEdit *>();
     EXPECT_TRUE(example->isReadOnly());
     discover(chrome, {u"1"_s});
-    EXPECT_EQ(example->toPlainText(), linkExample(store_, conventions_, false));
+    EXPECT_EQ(example->toPlainText(), linkExample(program_.store, program_.conventions, false));
     EXPECT_TRUE(example->toPlainText().contains(u"profile=com.google.Chrome/chromium:1"_s));
 }
 
@@ -142,13 +142,13 @@ TEST_F(SettingsWindowTest, OpenAtLoginShowsWhatHolds)
     EXPECT_FALSE(login->isChecked());
     clickBox(login);
     EXPECT_TRUE(login->isChecked());
-    EXPECT_TRUE(loginItem_.isEnabled());
+    EXPECT_TRUE(program_.loginItem.isEnabled());
     clickBox(login);
-    loginItem_.refuse(u"The disk is full."_s);
+    program_.loginItem.refuse(u"The disk is full."_s);
     clickBox(login);
     EXPECT_FALSE(login->isChecked());
-    EXPECT_EQ(alert_.shown(), QStringList{u"Vantrel Can't Be Opened at Login / The disk is full."_s});
-    loginItem_.change(true);
+    EXPECT_EQ(program_.alert.shown(), QStringList{u"Vantrel Can't Be Opened at Login / The disk is full."_s});
+    program_.loginItem.change(true);
     tabs()->setCurrentIndex(0);
     tabs()->setCurrentIndex(1);
     EXPECT_TRUE(login->isChecked());
@@ -156,41 +156,41 @@ TEST_F(SettingsWindowTest, OpenAtLoginShowsWhatHolds)
 
 TEST_F(SettingsWindowTest, UpdatesAreLookedForAsTheUserWants)
 {
-    hasUpdater_ = true;
+    program_.hasUpdater = true;
     show(Tab::general);
     QCheckBox *updates = toggle(u"Check for Updates Automatically"_s);
     ASSERT_NE(updates, nullptr);
     EXPECT_FALSE(updates->isChecked());
     clickBox(updates);
-    EXPECT_TRUE(updater_.automaticallyChecksForUpdates());
+    EXPECT_TRUE(program_.updater.automaticallyChecksForUpdates());
     clickBox(updates);
-    EXPECT_FALSE(updater_.automaticallyChecksForUpdates());
+    EXPECT_FALSE(program_.updater.automaticallyChecksForUpdates());
 }
 
 TEST_F(SettingsWindowTest, TheKeyboardReachesEverythingInTheOrderInWhichItIsRead)
 {
-    install({chrome, brave});
+    program_.install({chrome, brave});
     discover(brave, {u"1"_s});
-    store_.apply({{chrome, std::unexpected(ProfileDiscoveryError::accessDenied(u"/x"_s))}});
+    program_.store.apply({{chrome, std::unexpected(ProfileDiscoveryError::accessDenied(u"/x"_s))}});
     show();
     tabs()->tabBar()->setFocus();
     QStringList expected{u"Profiles"_s};
     for (const QString &notation : {u"b:1"_s, u"b:private"_s, u"c:private"_s}) {
         if (notation == u"c:private"_s)
             expected.append(u"Try Again"_s);
-        const QString title = store_.catalogue().title(test::profiles(notation).first());
+        const QString title = program_.store.catalogue().title(test::profiles(notation).first());
         for (const QString &part : {u"Name"_s, u"Record Shortcut"_s, u"Leave out of the menu"_s, u"More"_s})
             expected.append(title + u": "_s + part);
     }
     EXPECT_EQ(focusWay(), expected);
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab, Qt::ControlModifier);
-    EXPECT_EQ(model_.tab(), Tab::general);
+    EXPECT_EQ(program_.model.tab(), Tab::general);
 }
 
 TEST_F(SettingsWindowTest, EverythingThatCanBeUsedHasANameAndARole)
 {
-    hasSafari_ = true;
-    hasUpdater_ = true;
+    program_.hasSafari = true;
+    program_.hasUpdater = true;
     discover(chrome, {u"1"_s});
     show();
     for (const int tab : {0, 1, 2}) {
@@ -223,11 +223,11 @@ TEST_F(SettingsWindowTest, RightToLeftIsMirrored)
 
 TEST_F(SettingsWindowTest, NothingIsCutOffWithLargeTextInANarrowWindow)
 {
-    hasSafari_ = true;
-    hasUpdater_ = true;
-    install({chrome, brave});
+    program_.hasSafari = true;
+    program_.hasUpdater = true;
+    program_.install({chrome, brave});
     discover(chrome, {u"1"_s});
-    store_.apply({{brave, std::unexpected(ProfileDiscoveryError::accessDenied(u"/x"_s))}});
+    program_.store.apply({{brave, std::unexpected(ProfileDiscoveryError::accessDenied(u"/x"_s))}});
     show();
     QFont font = window_->font();
     font.setPointSizeF(font.pointSizeF() * 2);
