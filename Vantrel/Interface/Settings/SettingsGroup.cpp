@@ -39,7 +39,8 @@ QWidget *SettingsGroup::explanation(const QString &text)
 {
     QString marked = text.toHtmlEscaped();
     static const QRegularExpression code(u"`([^`]*)`"_s);
-    marked.replace(code, u"<tt>\\1</tt>"_s);
+    // Isolated, it reads from left to right in every language.
+    marked.replace(code, u"<tt>\u2066\\1\u2069</tt>"_s);
     auto *label = new QLabel(marked);
     label->setTextFormat(Qt::RichText);
     label->setWordWrap(true);
