@@ -264,15 +264,12 @@ void VantrelApp::prepareIcons()
 
 GlobalShortcuts &VantrelApp::shortcuts()
 {
-    if (!shortcuts_)
-        connectShortcuts(makeShortcuts());
-    return *shortcuts_;
-}
-
-GlobalShortcuts &VantrelApp::makeShortcuts()
-{
-    return shortcuts_.emplace(GlobalShortcuts::Environment{*platform_.activation, *desktop_.userDefaults, store_,
-                                                           opener_, desktop_.conventions});
+    if (shortcuts_)
+        return *shortcuts_;
+    GlobalShortcuts &made = shortcuts_.emplace(GlobalShortcuts::Environment{
+        *platform_.activation, *desktop_.userDefaults, store_, opener_, desktop_.conventions});
+    connectShortcuts(made);
+    return made;
 }
 
 void VantrelApp::connectShortcuts(GlobalShortcuts &made)

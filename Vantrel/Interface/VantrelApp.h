@@ -49,7 +49,6 @@ private:
     void takeStoreChange();
     void prepareIcons();
     [[nodiscard]] GlobalShortcuts &shortcuts();
-    GlobalShortcuts &makeShortcuts();
     void connectShortcuts(GlobalShortcuts &made);
     void updateMenus();
 
