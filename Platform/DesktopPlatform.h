@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Platform/ActionService.h"
 #include "Platform/ActivationPolicy.h"
 #include "Platform/Appearance.h"
 #include "Platform/ApplicationInstance.h"
@@ -31,6 +32,8 @@ struct DesktopPlatform {
     std::unique_ptr<ProfileService> profileService;
     /// Null where searches ask us.
     std::unique_ptr<SearchIndex> searchIndex;
+    /// Null where the system has no actions of programs.
+    std::unique_ptr<ActionService> actionService;
     std::unique_ptr<ApplicationInstance> instance;
     std::unique_ptr<RunningApplications> runningApplications;
     std::unique_ptr<ActivationPolicy> activationPolicy;

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "Platform/PlatformError.h"
+#include "Platform/SystemProfile.h"
 
-#include <QByteArray>
 #include <QCoroTask>
 #include <QList>
 
@@ -10,19 +10,11 @@
 
 namespace vantrel {
 
-/// The system's own index of what can be found with its search. Main thread only.
+/// The system's own index of what can be found with its search. The user's choice is handed back as the profile's id.
+/// Main thread only.
 class SearchIndex {
 public:
-    struct Entry {
-        /// Handed back when the user chooses it.
-        QString id;
-        QString title;
-        /// A PNG file.
-        QByteArray picture;
-
-        friend bool operator==(const Entry &, const Entry &) = default;
-    };
-
+    using Entry = SystemProfile;
     using Step = QCoro::Task<std::expected<void, PlatformError>>;
 
     virtual ~SearchIndex() = default;

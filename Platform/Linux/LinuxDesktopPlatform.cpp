@@ -43,6 +43,7 @@ DesktopPlatform DesktopPlatform::create(Platform &platform)
         .log = std::make_unique<StandardErrorLog>(variables),
         .profileService = std::move(profileService),
         .searchIndex = nullptr,
+        .actionService = nullptr,
         .instance = std::move(instance),
         .runningApplications =
             std::make_unique<BrowserProcessesThread>(*platform.browserData, bus, SingletonContext::current()),

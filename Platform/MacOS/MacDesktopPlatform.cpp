@@ -1,3 +1,6 @@
+#include "Platform/AppIntents/ActionsBridge.h"
+#include "Platform/AppIntents/AppEntityIndex.h"
+#include "Platform/AppIntents/IntentActionService.h"
 #include "Platform/DesktopPlatform.h"
 #include "Platform/MacOS/MacAccessibilityTrust.h"
 #include "Platform/MacOS/MacActivationPolicy.h"
@@ -23,7 +26,9 @@ DesktopPlatform DesktopPlatform::create(Platform &)
     return {
         .log = std::make_unique<UnifiedLog>(),
         .profileService = nullptr,
-        .searchIndex = nullptr,
+        .searchIndex = std::make_unique<AppEntityIndex>(
+            AppEntityIndex::Functions{.removeAll = vantrelRemoveIndexedProfiles, .add = vantrelIndexProfiles}),
+        .actionService = std::make_unique<IntentActionService>(vantrelUpdateShortcutParameters),
         .instance = std::make_unique<MacApplicationInstance>(),
         .runningApplications = std::make_unique<MacRunningApplications>(),
         .activationPolicy = std::make_unique<MacActivationPolicy>(),

@@ -1,6 +1,7 @@
 """The files of the build on macOS, which CMake can write anywhere: what is built there, of what, and where it goes."""
 from __future__ import annotations
 
+import json
 import os
 import re
 import subprocess
@@ -89,6 +90,58 @@ class BuildFiles(unittest.TestCase):
         libraries = re.search(r"LINK_LIBRARIES = (.*)", rule)[1].split()
         self.assertEqual([name for name in libraries if name not in ("-framework", "AppKit", "Foundation")],
                          ["LauncherStub/libLauncherStubLink.a"])
+
+    def test_the_app_is_linked_with_what_is_written_in_swift(self) -> None:
+        rule = next(rule for rule in self.ninja.split("\n\n")
+                    if "build Vantrel.app/Contents/MacOS/vantrel-app:" in rule)
+        self.assertIn("Packaging/MacOS/VantrelActions.o", re.search(r"^build .*", rule, re.MULTILINE)[0])
+        libraries = re.search(r"LINK_LIBRARIES = (.*)", rule)[1]
+        for framework in ("AppIntents", "CoreSpotlight"):
+            self.assertIn(f"-framework {framework}", libraries)
+        self.assertIn("/usr/lib/swift", re.search(r"LINK_PATH = (.*)", rule)[1])
+
+    def built(self, name: str) -> list[str]:
+        """The lines of a file that the stand-ins for Apple's tools can make."""
+        done = subprocess.run([variable("VANTREL_CMAKE"), "--build", str(self.folder), "--target", name],
+                              capture_output=True, text=True, check=False)
+        self.assertEqual(done.returncode, 0, done.stdout + done.stderr)
+        return (self.folder / name).read_text(encoding="utf-8").splitlines()
+
+    def test_all_swift_is_compiled_as_one_module_for_the_system_that_the_rest_is_for(self) -> None:
+        arguments = self.built("Packaging/MacOS/VantrelActions.o")
+        self.assertEqual({name for name in arguments if name.endswith(".swift")},
+                         {str(path) for path in (ROOT / "Platform" / "MacOS").rglob("*.swift")})
+        self.assertIn("-wmo", arguments)
+        self.assertIn("-parse-as-library", arguments)
+        self.assertIn("x86_64-apple-macos14.0", arguments)
+        self.assertIn(f"{ROOT}/Platform/AppIntents/ActionsBridge.h", arguments)
+        protocols = arguments[arguments.index("-const-gather-protocols-file") + 2]
+        gathered = json.loads(Path(protocols).read_text(encoding="utf-8"))
+        self.assertLess({"AppIntent", "AppEntity", "EntityQuery", "AppShortcutsProvider"}, set(gathered))
+
+    def test_the_actions_are_described_in_the_bundle(self) -> None:
+        folder = "Vantrel.app/Contents/Resources/Metadata.appintents"
+        arguments = self.built(f"{folder}/version.json")
+        for option, value in (("--module-name", "VantrelActions"), ("--xcode-version", "17A324"),
+                              ("--target-triple", "x86_64-apple-macos14.0"), ("--platform-family", "macOS"),
+                              ("--bundle-identifier", "app.kestrune.Vantrel"),
+                              ("--output", f"{self.folder}/Vantrel.app/Contents/Resources")):
+            self.assertEqual(arguments[arguments.index(option) + 1], value)
+        self.assertIn("--compile-time-extraction", arguments)
+        self.assertTrue((self.folder / folder / "extract.actionsdata").exists())
+
+    def test_a_build_without_a_description_of_an_action_fails(self) -> None:
+        with tempfile.TemporaryDirectory() as output:
+            script = f'mkdir "{output}/Metadata.appintents" && cd "$_" && touch version.json && echo "$0" > '
+            for described, message in (("echo nothing >", "No description of the actions was written"),
+                                       (script, "says nothing of OpenLinksInProfileIntent")):
+                done = subprocess.run(
+                    [variable("VANTREL_CMAKE"), f"-DOUTPUT={output}", "-P",
+                     str(ROOT / "Packaging" / "MacOS" / "DescribeActions.cmake"), "--",
+                     "bash", "-c", f"{described} extract.actionsdata", "OpenProfileIntent"],
+                    capture_output=True, text=True, check=False, cwd=output)
+                self.assertNotEqual(done.returncode, 0)
+                self.assertIn(message, " ".join(done.stderr.split()))
 
 
 if __name__ == "__main__":

@@ -1,12 +1,12 @@
 #include "Vantrel/Actions/ProfileRequests.h"
 
+#include "Vantrel/Actions/FirstDiscovery.h"
 #include "Vantrel/Actions/OpenLinksInProfileIntent.h"
 #include "VantrelKit/LaunchLink.h"
 #include "VantrelKit/PrintableText.h"
 #include "VantrelKit/WebLinks.h"
 
 #include <QCoreApplication>
-#include <QCoroSignal>
 
 using namespace Qt::StringLiterals;
 
@@ -59,13 +59,13 @@ QCoro::Task<QList<ProfileAnswers::Found>> ProfileRequests::search(QStringList te
     const SearchTerms parsed = SearchTerms::parse(terms);
     if (parsed.isEmpty())
         co_return QList<Found>();
-    co_await filledStore();
+    co_await filledStore(environment_.store, environment_.discovery);
     co_return described(search_.matches(parsed, limit));
 }
 
 QCoro::Task<QList<ProfileAnswers::Found>> ProfileRequests::found(QStringList ids)
 {
-    co_await filledStore();
+    co_await filledStore(environment_.store, environment_.discovery);
     QList<ProfileSearch::Match> matches;
     for (const QString &id : std::as_const(ids)) {
         if (const auto match = ProfileSearch::Match::of(id))
@@ -91,7 +91,7 @@ void ProfileRequests::showList(const Activation &activation)
 
 QCoro::Task<QList<ProfileAnswers::Listed>> ProfileRequests::list()
 {
-    co_await filledStore();
+    co_await filledStore(environment_.store, environment_.discovery);
     QList<Listed> listed;
     for (const ProfileTitles::Row &row : titles_.rows()) {
         if (!row.isInstalled)
@@ -125,7 +125,7 @@ QCoro::Task<ProfileAnswers::Outcome> ProfileRequests::open(QString profileID, QS
 QCoro::Task<ProfileAnswers::Outcome> ProfileRequests::openLinks(QString profileID, QList<QUrl> links,
                                                                 Activation activation)
 {
-    co_await searchedFor(profileID);
+    co_await searchedFor(profileID, titles_, environment_.discovery);
     const QList<ProfileEntity> entities = query_.entities(QStringList(profileID));
     if (entities.isEmpty())
         co_return std::unexpected(unknownProfile(profileID));
@@ -136,22 +136,6 @@ QCoro::Task<ProfileAnswers::Outcome> ProfileRequests::openLinks(QString profileI
     if (!performed)
         co_return std::unexpected(unknownProfile(profileID));
     co_return {};
-}
-
-QCoro::Task<> ProfileRequests::filledStore()
-{
-    DiscoveryRuns &discovery = environment_.discovery;
-    discovery.start();
-    while (environment_.store.profiles().isEmpty() && !discovery.isIdle())
-        co_await qCoro(&discovery, &DiscoveryRuns::idle);
-}
-
-QCoro::Task<> ProfileRequests::searchedFor(QString profileID)
-{
-    DiscoveryRuns &discovery = environment_.discovery;
-    discovery.start();
-    while (titles_.find(profileID) == nullptr && !discovery.isIdle())
-        co_await qCoro(&discovery, &DiscoveryRuns::idle);
 }
 
 QList<ProfileAnswers::Found> ProfileRequests::described(const QList<ProfileSearch::Match> &matches)

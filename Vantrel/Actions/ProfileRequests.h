@@ -39,10 +39,6 @@ public:
     [[nodiscard]] QCoro::Task<Outcome> open(QString profileID, QStringList links, Activation activation) override;
 
 private:
-    /// Done when there is something to answer from.
-    QCoro::Task<> filledStore();
-    /// Done when the profile is known, or no browser is being read.
-    QCoro::Task<> searchedFor(QString profileID);
     [[nodiscard]] QCoro::Task<Outcome> openLinks(QString profileID, QList<QUrl> links, Activation activation);
     [[nodiscard]] QList<Found> described(const QList<ProfileSearch::Match> &matches);
     void note(const Activation &activation);

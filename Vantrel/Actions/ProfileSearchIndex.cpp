@@ -1,5 +1,7 @@
 #include "Vantrel/Actions/ProfileSearchIndex.h"
 
+#include "Vantrel/Actions/SystemProfiles.h"
+
 using namespace Qt::StringLiterals;
 
 namespace vantrel {
@@ -54,11 +56,8 @@ QList<SearchIndex::Entry> ProfileSearchIndex::entries()
 {
     QList<SearchIndex::Entry> entries;
     for (const ProfileTitles::Row &row : environment_.titles.rows()) {
-        if (row.isInstalled && !row.isHidden) {
-            const ProfileEntity &entity = row.entity;
-            const QByteArray picture = environment_.icons.png(entity.avatar, picturePixels);
-            entries.append({entity.id, entity.displayRepresentation, picture});
-        }
+        if (row.isInstalled && !row.isHidden)
+            entries.append(systemProfile(row.entity, environment_.icons));
     }
     return entries;
 }

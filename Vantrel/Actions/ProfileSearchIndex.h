@@ -25,7 +25,6 @@ public:
 
     /// For how long things must be quiet before a refresh begins: a discovery changes the store several times.
     static constexpr std::chrono::milliseconds quietTime{500};
-    static constexpr int picturePixels = 64;
 
     /// Refreshes whenever the profiles change.
     explicit ProfileSearchIndex(const Environment &environment);

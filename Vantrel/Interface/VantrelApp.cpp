@@ -89,19 +89,30 @@ VantrelApp::VantrelApp(Platform &platform, DesktopPlatform &desktop, QString bui
              *desktop.log, [this] { tellHomeless(*desktop_.userDefaults); }, [this] { startSoon(); }})
 {
     connect(&store_, &ProfileStore::changed, this, &VantrelApp::takeStoreChange);
-    if (desktop_.profileService) {
-        desktop_.profileService->start(requests_);
-        connect(&requests_.titles(), &ProfileTitles::changed, this,
-                [this] { desktop_.profileService->announceChange(); });
-    }
-    if (desktop_.searchIndex)
-        searchIndex_.emplace(
-            ProfileSearchIndex::Environment{requests_.titles(), icons_, *desktop_.searchIndex, clock_, *desktop_.log});
+    offerProfiles();
     // Reading and drawing leave much free memory behind.
     connect(&icons_, &ProfileIconCache::prepared, this, [] { ProcessMemory::giveBack(); });
     if (desktop_.statusItem) {
         // The panel asks for all icons at once.
         connect(&icons_, &ProfileIconCache::prepared, this, [this] { desktop_.statusItem->updateMenu(); });
+    }
+}
+
+/// To the rest of the system.
+void VantrelApp::offerProfiles()
+{
+    ProfileTitles &titles = requests_.titles();
+    if (desktop_.profileService) {
+        desktop_.profileService->start(requests_);
+        connect(&titles, &ProfileTitles::changed, this, [this] { desktop_.profileService->announceChange(); });
+    }
+    if (desktop_.searchIndex)
+        searchIndex_.emplace(
+            ProfileSearchIndex::Environment{titles, icons_, *desktop_.searchIndex, clock_, *desktop_.log});
+    if (desktop_.actionService) {
+        actions_.emplace(ActionRequests::Environment{store_, discovery_, opener_, titles, icons_});
+        desktop_.actionService->start(*actions_);
+        connect(&titles, &ProfileTitles::changed, this, [this] { desktop_.actionService->announceChange(); });
     }
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Platform/DesktopPlatform.h"
+#include "Vantrel/Actions/ActionRequests.h"
 #include "Vantrel/Actions/ProfileRequests.h"
 #include "Vantrel/Actions/ProfileSearchIndex.h"
 #include "Vantrel/DiscoveryRuns.h"
@@ -37,6 +38,7 @@ public:
     bool eventFilter(QObject *object, QEvent *event) override;
 
 private:
+    void offerProfiles();
     void take(const InstanceRequest &request);
     void act(const QString &action);
     void showMenu();
@@ -70,6 +72,8 @@ private:
     ProfileRequests requests_;
     /// None where other programs ask us.
     std::optional<ProfileSearchIndex> searchIndex_;
+    /// None where the system has no actions of programs.
+    std::optional<ActionRequests> actions_;
     ProfileLaunchers launchers_;
     SymbolIcons symbols_;
     SettingsModel settingsModel_;

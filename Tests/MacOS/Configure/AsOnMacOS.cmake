@@ -16,6 +16,7 @@ endforeach()
 get_property(CMAKE_CXX_COMPILE_FEATURES GLOBAL PROPERTY CMAKE_CXX_KNOWN_FEATURES)
 set(CMAKE_SIZEOF_VOID_P 8)
 set(CMAKE_INSTALL_NAME_TOOL /bin/true)
+set(VANTREL_XCRUN ${CMAKE_CURRENT_LIST_DIR}/Programs/xcrun CACHE FILEPATH "" FORCE)
 set(CMAKE_OSX_SYSROOT / CACHE PATH "" FORCE)
 
 # The libraries are this machine's own; where they lie is all that is asked.

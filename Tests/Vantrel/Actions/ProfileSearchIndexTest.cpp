@@ -4,6 +4,7 @@
 #include "Tests/Fakes/FakeSearchIndex.h"
 #include "Tests/Vantrel/Actions/ActionsFixture.h"
 #include "Tests/Vantrel/EventLoop.h"
+#include "Vantrel/Actions/SystemProfiles.h"
 #include "VantrelKit/PNGCoding.h"
 
 using namespace Qt::StringLiterals;
@@ -36,8 +37,9 @@ TEST_F(ProfileSearchIndexTest, RemovesEverythingAndAddsThePresentProfiles)
     EXPECT_EQ(system_.takeCalls(), QStringList({removal, addition}));
     const SearchIndex::Entry entry = system_.entries().at(2);
     EXPECT_EQ(entry.id, work);
-    EXPECT_EQ(QImage::fromData(entry.picture, "PNG").size(),
-              QSize(ProfileSearchIndex::picturePixels, ProfileSearchIndex::picturePixels));
+    EXPECT_EQ(entry.name, u"Work"_s);
+    EXPECT_EQ(entry.browser, u"Google Chrome"_s);
+    EXPECT_EQ(QImage::fromData(entry.picture, "PNG").size(), QSize(systemPicturePixels, systemPicturePixels));
     EXPECT_EQ(clock_.takeSleeps(), QList<int>(1, 500));
 }
 
