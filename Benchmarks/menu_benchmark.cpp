@@ -161,7 +161,7 @@ void firstPopup(benchmark::State &state)
     for ([[maybe_unused]] const auto &iteration : state) {
         state.PauseTiming();
         profiles().forgetIcons();
-        auto menu = std::make_unique<PopupMenu>([] { return profiles().menu(); });
+        auto menu = std::make_unique<PopupMenu>([] { return profiles().menu(); }, TrayHost::plain);
         if (state.range(0) != 0)
             profiles().prepareIcons({.image = menu->iconPixels()});
         state.ResumeTiming();
@@ -175,7 +175,7 @@ void firstPopup(benchmark::State &state)
 
 void laterPopup(benchmark::State &state)
 {
-    PopupMenu menu([] { return profiles().menu(); });
+    PopupMenu menu([] { return profiles().menu(); }, TrayHost::plain);
     open(menu);
     menu.hide();
     std::ignore = profiles().takeWantedIcons();

@@ -56,14 +56,24 @@ QKeyCombination typedKey(const std::optional<QString> &character)
     return static_cast<Qt::Key>(QChar::toUpper(codePoints.first()));
 }
 
-Qt::KeyboardModifiers keyboardModifiers(const Shortcut &shortcut)
+QKeyCombination namedKey(SpecialKey key, QtKeyNames names)
+{
+    if (names == QtKeyNames::macintosh && key == SpecialKey::help)
+        return Qt::Key_Help;
+    if (names == QtKeyNames::macintosh && key == SpecialKey::keypadClear)
+        return Qt::KeypadModifier | Qt::Key_Clear;
+    return keyCombination(key);
+}
+
+Qt::KeyboardModifiers keyboardModifiers(const Shortcut &shortcut, QtKeyNames names)
 {
     const std::uint32_t flags = shortcut.modifiers();
+    const bool isSwapped = names == QtKeyNames::macintosh;
     Qt::KeyboardModifiers modifiers;
     modifiers.setFlag(Qt::ShiftModifier, (flags & AppKitFlag::shift) != 0);
-    modifiers.setFlag(Qt::ControlModifier, (flags & AppKitFlag::control) != 0);
+    modifiers.setFlag(isSwapped ? Qt::MetaModifier : Qt::ControlModifier, (flags & AppKitFlag::control) != 0);
     modifiers.setFlag(Qt::AltModifier, (flags & AppKitFlag::option) != 0);
-    modifiers.setFlag(Qt::MetaModifier, (flags & AppKitFlag::command) != 0);
+    modifiers.setFlag(isSwapped ? Qt::ControlModifier : Qt::MetaModifier, (flags & AppKitFlag::command) != 0);
     return modifiers;
 }
 
@@ -94,13 +104,13 @@ QKeyCombination keyCombination(SpecialKey key)
     return Qt::KeypadModifier | keypadKeys.at(static_cast<std::size_t>(distance(SpecialKey::keypadClear, key)));
 }
 
-QKeySequence keyEquivalent(const std::optional<Shortcut> &shortcut, const KeyboardLayout &layout)
+QKeySequence keyEquivalent(const std::optional<Shortcut> &shortcut, const KeyboardLayout &layout, QtKeyNames names)
 {
     if (!shortcut)
         return {};
     const auto special = shortcut->key();
-    const QKeyCombination key = special ? keyCombination(*special) : typedKey(shortcut->character(layout));
-    return QKeyCombination(keyboardModifiers(*shortcut) | key.keyboardModifiers(), key.key());
+    const QKeyCombination key = special ? namedKey(*special, names) : typedKey(shortcut->character(layout));
+    return QKeyCombination(keyboardModifiers(*shortcut, names) | key.keyboardModifiers(), key.key());
 }
 
 QString keyText(const QKeySequence &sequence)

@@ -6,7 +6,9 @@ namespace vantrel {
 
 DesktopKeyboard DesktopKeyboard::create(ActivationSource & /*source*/, HotKeyDescription /*description*/)
 {
-    return {.hotKeys = std::make_unique<CarbonHotKeys>(), .layout = std::make_unique<CarbonKeyboardLayout>()};
+    return {.hotKeys = std::make_unique<CarbonHotKeys>(),
+            .layout = std::make_unique<CarbonKeyboardLayout>(),
+            .keyNumber = KeyNumber::virtualKey};
 }
 
 } // namespace vantrel

@@ -4,7 +4,8 @@
 
 namespace vantrel {
 
-/// The layout that the user has chosen in the input menu, or the one that types ASCII where that is an input method.
+/// The layout that the user has chosen in the input menu, or the last one before it that types ASCII where that one
+/// doesn't, as Russian ones and input methods.
 class CarbonKeyboardLayout final : public KeyboardLayout {
 public:
     CarbonKeyboardLayout() = default;

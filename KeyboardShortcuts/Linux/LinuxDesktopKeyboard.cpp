@@ -46,7 +46,9 @@ std::unique_ptr<KeyboardLayout> makeLayout()
 
 DesktopKeyboard DesktopKeyboard::create(ActivationSource &source, HotKeyDescription description)
 {
-    return {.hotKeys = makeHotKeys(source, std::move(description)), .layout = makeLayout()};
+    return {.hotKeys = makeHotKeys(source, std::move(description)),
+            .layout = makeLayout(),
+            .keyNumber = KeyNumber::scanCode};
 }
 
 } // namespace vantrel

@@ -59,7 +59,7 @@ DesktopPlatform DesktopPlatform::create(Platform &platform)
         .savePanel = nullptr,
         .folderAccess = nullptr,
         .updater = nullptr,
-        .conventions = {.linkCommand = u"xdg-open"_s, .showsKeySigns = false},
+        .conventions = {.linkCommand = u"xdg-open"_s, .showsKeySigns = false, .qtKeyNames = QtKeyNames::pc},
         .safari = std::nullopt,
     };
 }

@@ -41,7 +41,7 @@ DesktopPlatform DesktopPlatform::create(Platform &)
         .savePanel = std::make_unique<NativeSavePanel>(),
         .folderAccess = std::make_unique<PanelFolderAccess>(),
         .updater = makeUpdater(),
-        .conventions = {.linkCommand = u"open"_s, .showsKeySigns = true},
+        .conventions = {.linkCommand = u"open"_s, .showsKeySigns = true, .qtKeyNames = QtKeyNames::macintosh},
         .safari = SafariPorts{.scripts = std::make_unique<ProgramScriptRunner>(u"/usr/bin/osascript"_s),
                               .bridge = std::make_unique<MacSafariBridge>(),
                               .accessibility = std::make_unique<MacAccessibilityTrust>(),

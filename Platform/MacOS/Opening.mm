@@ -24,17 +24,22 @@ NSWorkspaceOpenConfiguration *configurationOf(const Opening &opening)
     return configuration;
 }
 
+Result failure(NSError *error)
+{
+    return std::unexpected(PlatformError{QString::fromNSString(error.localizedDescription)});
+}
+
 /// Gives the answer on any thread. It is a copy for the block, which would keep a reference as a reference.
 void start(const Opening &opening, Answer<Result> answer)
 {
-    [NSWorkspace.sharedWorkspace
-        openApplicationAtURL:opening.application.toNSURL()
-               configuration:configurationOf(opening)
-           completionHandler:^(NSRunningApplication *, NSError *error) {
-             answer.give(error
-                             ? Result(std::unexpected(PlatformError{QString::fromNSString(error.localizedDescription)}))
-                             : Result());
-           }];
+    // A process without an event loop has no pool of its own.
+    @autoreleasepool {
+        [NSWorkspace.sharedWorkspace openApplicationAtURL:opening.application.toNSURL()
+                                            configuration:configurationOf(opening)
+                                        completionHandler:^(NSRunningApplication *, NSError *error) {
+                                          answer.give(error ? failure(error) : Result());
+                                        }];
+    }
 }
 
 } // namespace

@@ -11,7 +11,7 @@
     <message>
         <source>Vantrel.app can&apos;t be found. Put it into Applications.</source>
         <extracomment>Error when the command line can&apos;t find the app.</extracomment>
-        <translation>تعذّر العثور على Vantrel.app. ضعه في مجلد التطبيقات.</translation>
+        <translation>لم يُعثر على Vantrel.app. ضعه في مجلد التطبيقات.</translation>
     </message>
 </context>
 <context>
@@ -65,7 +65,7 @@
     <message>
         <source>%1 is no longer a usable application. Check that the browser is installed.</source>
         <extracomment>Error when a browser was removed or damaged since it was found. The placeholder is its path.</extracomment>
-        <translation>لم يعد ⁨%1⁩ تطبيقًا صالحًا. تحقق من أن المتصفح مثبّت.</translation>
+        <translation>لم يعد ‎%1‎ تطبيقًا صالحًا للاستخدام. تحقق من أن المتصفح مثبت.</translation>
     </message>
 </context>
 <context>
@@ -453,12 +453,12 @@ many profiles it has, and what failed.</source>
     <message>
         <source>Vantrel is running, but doesn&apos;t answer.</source>
         <extracomment>Error when the app runs but hangs.</extracomment>
-        <translation>‏Vantrel يعمل، لكنه لا يستجيب.</translation>
+        <translation>يعمل Vantrel، لكنه لا يستجيب.</translation>
     </message>
     <message>
         <source>Vantrel is running, but refuses the request. %1</source>
         <extracomment>Error when the running app can&apos;t do what it is asked for. The placeholder is its reason, a sentence.</extracomment>
-        <translation>‏Vantrel يعمل، لكنه يرفض الطلب. %1</translation>
+        <translation>يعمل Vantrel، لكنه يرفض الطلب. %1</translation>
     </message>
 </context>
 <context>
@@ -495,11 +495,24 @@ many profiles it has, and what failed.</source>
     </message>
 </context>
 <context>
+    <name>NoTrayNotice</name>
+    <message>
+        <source>This desktop has no tray</source>
+        <extracomment>Title of the notice on desktops without a tray.</extracomment>
+        <translation>لا توجد علبة نظام في بيئة سطح المكتب هذه</translation>
+    </message>
+    <message>
+        <source>Vantrel is running, but there is no place for its symbol. Start Vantrel again to open its settings, or give the command “%1” a keyboard shortcut of your desktop to open its menu.</source>
+        <extracomment>Notice on desktops without a tray. The placeholder is a command.</extracomment>
+        <translation>يعمل Vantrel، لكن لا مكان لرمزه. شغِّل Vantrel مرة أخرى لفتح إعداداته، أو خصِّص للأمر «⁦%1⁩» اختصارًا من بيئة سطح المكتب لفتح قائمته.</translation>
+    </message>
+</context>
+<context>
     <name>OpenLinksInProfileIntent</name>
     <message>
         <source>Open Links in Browser Profile</source>
         <extracomment>Title of an action that the system offers, in Shortcuts for instance.</extracomment>
-        <translation>فتح الروابط في ملف شخصي للمتصفح</translation>
+        <translation>فتح الروابط في ملف المتصفح الشخصي</translation>
     </message>
     <message>
         <source>Links</source>
@@ -514,7 +527,7 @@ many profiles it has, and what failed.</source>
     <message>
         <source>Open %1 in %2</source>
         <extracomment>What an action does. First: links; second: a profile.</extracomment>
-        <translation>فتح ⁨%1⁩ في ⁨%2⁩</translation>
+        <translation>فتح %1 في %2</translation>
     </message>
 </context>
 <context>
@@ -522,7 +535,7 @@ many profiles it has, and what failed.</source>
     <message>
         <source>Open Browser Profile</source>
         <extracomment>Title of an action that the system offers, in Shortcuts for instance.</extracomment>
-        <translation>فتح ملف شخصي للمتصفح</translation>
+        <translation>فتح ملف المتصفح الشخصي</translation>
     </message>
     <message>
         <source>Profile</source>
@@ -532,7 +545,7 @@ many profiles it has, and what failed.</source>
     <message>
         <source>Open %1</source>
         <extracomment>What an action does. The placeholder is a profile.</extracomment>
-        <translation>فتح ⁨%1⁩</translation>
+        <translation>فتح %1</translation>
     </message>
 </context>
 <context>
@@ -597,12 +610,12 @@ many profiles it has, and what failed.</source>
     <message>
         <source>Open this browser profile</source>
         <extracomment>Below a profile that the desktop&apos;s search has found: what choosing it does.</extracomment>
-        <translation>فتح هذا الملف الشخصي للمتصفح</translation>
+        <translation>فتح ملف المتصفح الشخصي هذا</translation>
     </message>
     <message>
         <source>Open %1</source>
         <extracomment>Below a profile that the desktop&apos;s search has found: what choosing it does. The placeholder is a link.</extracomment>
-        <translation>فتح ⁨%1⁩</translation>
+        <translation>فتح ‎%1‎</translation>
     </message>
     <message numerus="yes">
         <source>Open %n links</source>
@@ -619,12 +632,12 @@ many profiles it has, and what failed.</source>
     <message>
         <source>There is no profile with the id “%1”.</source>
         <extracomment>Error for another program that asks to open a profile. The placeholder is the profile&apos;s id.</extracomment>
-        <translation>لا يوجد ملف شخصي بالمعرّف “⁨%1⁩”.</translation>
+        <translation>لا يوجد ملف شخصي بالمعرّف «⁦%1⁩».</translation>
     </message>
     <message>
         <source>“%1” is no link that a browser can open: it takes a whole one with http, https or file.</source>
         <extracomment>Error for another program that asks to open links in a profile.</extracomment>
-        <translation>“⁨%1⁩” ليس رابطًا يمكن لمتصفح فتحه: يلزم رابط كامل يبدأ بـ http أو https أو file.</translation>
+        <translation>«⁦%1⁩» ليس رابطًا يستطيع المتصفح فتحه: يجب أن يكون كاملًا ويبدأ بـ http أو https أو file.</translation>
     </message>
 </context>
 <context>
@@ -679,6 +692,14 @@ many profiles it has, and what failed.</source>
         <source>The folder %1 can&apos;t be made.</source>
         <extracomment>Reason in the log why the profiles were not saved. The placeholder is a folder&apos;s path.</extracomment>
         <translation>يتعذر إنشاء المجلد ‎%1‎.</translation>
+    </message>
+</context>
+<context>
+    <name>ServiceRegistration</name>
+    <message>
+        <source>Allow Vantrel to open at login in System Settings ▸ General ▸ Login Items.</source>
+        <extracomment>Error when the app is to open at login and the user has yet to allow that, or has forbidden it before. The names are those of System Settings.</extracomment>
+        <translation>اسمح لـ Vantrel بالفتح عند تسجيل الدخول في إعدادات النظام ◂ عام ◂ عناصر تسجيل الدخول.</translation>
     </message>
 </context>
 <context>
@@ -751,19 +772,6 @@ many profiles it has, and what failed.</source>
     </message>
 </context>
 <context>
-    <name>VantrelApp</name>
-    <message>
-        <source>This desktop has no tray</source>
-        <extracomment>Title of the notice on desktops without a tray.</extracomment>
-        <translation>لا توجد علبة نظام في بيئة سطح المكتب هذه</translation>
-    </message>
-    <message>
-        <source>Vantrel is running, but there is no place for its symbol. Start Vantrel again to open its settings, or give the command “%1” a keyboard shortcut of your desktop to open its menu.</source>
-        <extracomment>Notice on desktops without a tray. The placeholder is a command.</extracomment>
-        <translation>يعمل Vantrel، لكن لا مكان لرمزه. شغِّل Vantrel مرة أخرى لفتح إعداداته، أو خصِّص للأمر «⁦%1⁩» اختصارًا من بيئة سطح المكتب لفتح قائمته.</translation>
-    </message>
-</context>
-<context>
     <name>VantrelShortcuts</name>
     <message>
         <source>Open Profile</source>
@@ -773,12 +781,12 @@ many profiles it has, and what failed.</source>
     <message>
         <source>Open %1 with %2</source>
         <extracomment>A phrase that the user says to the system. First: a profile; second: the app&apos;s name.</extracomment>
-        <translation>فتح ⁨%1⁩ باستخدام ⁨%2⁩</translation>
+        <translation>فتح %1 باستخدام %2</translation>
     </message>
     <message>
         <source>Open a profile with %1</source>
         <extracomment>A phrase that the user says to the system. The placeholder is the app&apos;s name.</extracomment>
-        <translation>فتح ملف شخصي باستخدام ⁨%1⁩</translation>
+        <translation>فتح ملف شخصي باستخدام %1</translation>
     </message>
 </context>
 <context>

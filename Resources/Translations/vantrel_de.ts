@@ -11,7 +11,7 @@
     <message>
         <source>Vantrel.app can&apos;t be found. Put it into Applications.</source>
         <extracomment>Error when the command line can&apos;t find the app.</extracomment>
-        <translation>Vantrel.app wurde nicht gefunden. Das Programm gehört in den Ordner „Programme“.</translation>
+        <translation>Vantrel.app wurde nicht gefunden. Es gehört in den Ordner „Programme“.</translation>
     </message>
 </context>
 <context>
@@ -65,7 +65,7 @@
     <message>
         <source>%1 is no longer a usable application. Check that the browser is installed.</source>
         <extracomment>Error when a browser was removed or damaged since it was found. The placeholder is its path.</extracomment>
-        <translation>%1 ist kein brauchbares Programm mehr. Ist der Browser noch installiert?</translation>
+        <translation>%1 ist kein brauchbares Programm mehr. Bitte prüfen, ob der Browser installiert ist.</translation>
     </message>
 </context>
 <context>
@@ -495,11 +495,24 @@ liegen, wie viele Profile er hat und was fehlgeschlagen ist.</translation>
     </message>
 </context>
 <context>
+    <name>NoTrayNotice</name>
+    <message>
+        <source>This desktop has no tray</source>
+        <extracomment>Title of the notice on desktops without a tray.</extracomment>
+        <translation>Diese Arbeitsumgebung hat keinen Infobereich</translation>
+    </message>
+    <message>
+        <source>Vantrel is running, but there is no place for its symbol. Start Vantrel again to open its settings, or give the command “%1” a keyboard shortcut of your desktop to open its menu.</source>
+        <extracomment>Notice on desktops without a tray. The placeholder is a command.</extracomment>
+        <translation>Vantrel läuft, findet aber keinen Platz für sein Symbol. Ein weiterer Start von Vantrel öffnet die Einstellungen, ein Tastenkürzel der Arbeitsumgebung für den Befehl „%1“ öffnet das Menü.</translation>
+    </message>
+</context>
+<context>
     <name>OpenLinksInProfileIntent</name>
     <message>
         <source>Open Links in Browser Profile</source>
         <extracomment>Title of an action that the system offers, in Shortcuts for instance.</extracomment>
-        <translation>Links im Browserprofil öffnen</translation>
+        <translation>Links in Browserprofil öffnen</translation>
     </message>
     <message>
         <source>Links</source>
@@ -620,7 +633,7 @@ liegen, wie viele Profile er hat und was fehlgeschlagen ist.</translation>
     <message>
         <source>“%1” is no link that a browser can open: it takes a whole one with http, https or file.</source>
         <extracomment>Error for another program that asks to open links in a profile.</extracomment>
-        <translation>„%1“ ist kein Link, den ein Browser öffnen kann: nötig ist ein vollständiger mit http, https oder file.</translation>
+        <translation>„%1“ ist kein Link, den ein Browser öffnen kann: Er muss vollständig sein und mit http, https oder file beginnen.</translation>
     </message>
 </context>
 <context>
@@ -675,6 +688,14 @@ liegen, wie viele Profile er hat und was fehlgeschlagen ist.</translation>
         <source>The folder %1 can&apos;t be made.</source>
         <extracomment>Reason in the log why the profiles were not saved. The placeholder is a folder&apos;s path.</extracomment>
         <translation>Der Ordner %1 lässt sich nicht anlegen.</translation>
+    </message>
+</context>
+<context>
+    <name>ServiceRegistration</name>
+    <message>
+        <source>Allow Vantrel to open at login in System Settings ▸ General ▸ Login Items.</source>
+        <extracomment>Error when the app is to open at login and the user has yet to allow that, or has forbidden it before. The names are those of System Settings.</extracomment>
+        <translation>Das Öffnen von Vantrel bei der Anmeldung lässt sich unter Systemeinstellungen ▸ Allgemein ▸ Anmeldeobjekte erlauben.</translation>
     </message>
 </context>
 <context>
@@ -744,19 +765,6 @@ liegen, wie viele Profile er hat und was fehlgeschlagen ist.</translation>
         <source>Vantrel doesn&apos;t know the profile “%1”. Check that it still exists in the browser, then make its launcher app again.</source>
         <extracomment>Error when a link or launcher app names a profile that isn&apos;t there. The placeholder is the profile&apos;s name.</extracomment>
         <translation>Vantrel kennt das Profil „%1“ nicht. Bitte prüfen, ob es im Browser noch vorhanden ist, und dann die Starter-App neu erstellen.</translation>
-    </message>
-</context>
-<context>
-    <name>VantrelApp</name>
-    <message>
-        <source>This desktop has no tray</source>
-        <extracomment>Title of the notice on desktops without a tray.</extracomment>
-        <translation>Diese Arbeitsumgebung hat keinen Infobereich</translation>
-    </message>
-    <message>
-        <source>Vantrel is running, but there is no place for its symbol. Start Vantrel again to open its settings, or give the command “%1” a keyboard shortcut of your desktop to open its menu.</source>
-        <extracomment>Notice on desktops without a tray. The placeholder is a command.</extracomment>
-        <translation>Vantrel läuft, findet aber keinen Platz für sein Symbol. Ein weiterer Start von Vantrel öffnet die Einstellungen, ein Tastenkürzel der Arbeitsumgebung für den Befehl „%1“ öffnet das Menü.</translation>
     </message>
 </context>
 <context>

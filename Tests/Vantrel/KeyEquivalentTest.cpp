@@ -18,9 +18,9 @@ constexpr qint64 shift = CarbonModifier::shift;
 constexpr qint64 option = CarbonModifier::option;
 constexpr qint64 control = CarbonModifier::control;
 
-QKeySequence equivalent(qint64 keyCode, qint64 modifiers)
+QKeySequence equivalent(qint64 keyCode, qint64 modifiers, QtKeyNames names = QtKeyNames::pc)
 {
-    return keyEquivalent(Shortcut{keyCode, modifiers}, test::FakeKeyboardLayout());
+    return keyEquivalent(Shortcut{keyCode, modifiers}, test::FakeKeyboardLayout(), names);
 }
 
 QString text(qint64 keyCode, qint64 modifiers)
@@ -52,12 +52,28 @@ TEST(KeyEquivalent, IsWhatQtTakesForTheKeys)
               QKeySequence(QKeyCombination(Qt::ControlModifier | Qt::KeypadModifier, Qt::Key_0)));
 }
 
+TEST(KeyEquivalent, WhereQtCallsCommandControlTheKeysAreTheOnesThatWerePressed)
+{
+    const auto sequence = [](qint64 keyCode, qint64 modifiers) {
+        return equivalent(keyCode, modifiers, QtKeyNames::macintosh);
+    };
+    EXPECT_EQ(sequence(35, control | option), QKeySequence(Qt::META | Qt::ALT | Qt::Key_P));
+    EXPECT_EQ(sequence(35, command), QKeySequence(Qt::CTRL | Qt::Key_P));
+    EXPECT_EQ(sequence(96, command | shift | option | control),
+              QKeySequence(Qt::META | Qt::CTRL | Qt::ALT | Qt::SHIFT | Qt::Key_F5));
+    EXPECT_EQ(sequence(51, control), QKeySequence(Qt::META | Qt::Key_Backspace));
+    // Keys that PC keyboards don't have.
+    EXPECT_EQ(sequence(114, control), QKeySequence(Qt::META | Qt::Key_Help));
+    EXPECT_EQ(sequence(71, control),
+              QKeySequence(QKeyCombination(Qt::MetaModifier | Qt::KeypadModifier, Qt::Key_Clear)));
+}
+
 TEST(KeyEquivalent, FollowsTheLayout)
 {
     test::FakeKeyboardLayout layout;
     const auto typed = [&](const QString &character) {
         layout.set(0, character);
-        return keyText(keyEquivalent(Shortcut{0, control}, layout));
+        return keyText(keyEquivalent(Shortcut{0, control}, layout, QtKeyNames::pc));
     };
     EXPECT_EQ(typed(u"q"_s), u"Ctrl+Q"_s);
     EXPECT_EQ(typed(u"ж"_s), u"Ctrl+Ж"_s);
@@ -70,7 +86,7 @@ TEST(KeyEquivalent, FollowsTheLayout)
 
 TEST(KeyEquivalent, WithoutAShortcutThereIsNone)
 {
-    EXPECT_TRUE(keyEquivalent(std::nullopt, test::FakeKeyboardLayout()).isEmpty());
+    EXPECT_TRUE(keyEquivalent(std::nullopt, test::FakeKeyboardLayout(), QtKeyNames::pc).isEmpty());
     EXPECT_EQ(keyText({}), QString());
 }
 

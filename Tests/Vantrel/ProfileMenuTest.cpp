@@ -150,7 +150,7 @@ TEST_F(ProfileMenuTest, AProfilesShortcutIsShownAsLongAsItHasOne)
     KeyboardShortcuts shortcuts({defaults, port, layout});
     fill(u"c:1=One"_s, {chrome_});
     actions_.shortcut = [&](const Profile &profile) {
-        return keyEquivalent(shortcuts.getShortcut(ProfileHotkeys::shortcutName(profile)), layout);
+        return keyEquivalent(shortcuts.getShortcut(ProfileHotkeys::shortcutName(profile)), layout, QtKeyNames::pc);
     };
     const ShortcutName name = ProfileHotkeys::shortcutName(store_.profiles().first());
     EXPECT_TRUE(row(u"One"_s).shortcut.isEmpty());

@@ -14,6 +14,7 @@ void AlertBox::show(const QString &title, const QString &message)
     box->setInformativeText(message);
     box->setAttribute(Qt::WA_DeleteOnClose);
     box->setWindowModality(Qt::ApplicationModal);
+    policy_.activate();
     box->show();
     box->raise();
     box->activateWindow();

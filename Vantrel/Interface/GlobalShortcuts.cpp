@@ -10,6 +10,7 @@ namespace vantrel {
 
 GlobalShortcuts::GlobalShortcuts(const Environment &environment)
     : store_(environment.store),
+      conventions_(environment.conventions),
       keyboard_(DesktopKeyboard::create(
           environment.activation,
           [this](std::uint32_t keyCode, std::uint32_t modifiers) { return descriptionOf(keyCode, modifiers); })),
@@ -29,7 +30,8 @@ GlobalShortcuts::GlobalShortcuts(const Environment &environment)
 
 QKeySequence GlobalShortcuts::keyEquivalentOf(const Profile &profile) const
 {
-    return keyEquivalent(shortcuts_.getShortcut(ProfileHotkeys::shortcutName(profile)), *keyboard_.layout);
+    return keyEquivalent(shortcuts_.getShortcut(ProfileHotkeys::shortcutName(profile)), *keyboard_.layout,
+                         conventions_.qtKeyNames);
 }
 
 void GlobalShortcuts::updateKeyEquivalents()

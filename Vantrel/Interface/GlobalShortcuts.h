@@ -3,6 +3,7 @@
 #include "KeyboardShortcuts/DesktopKeyboard.h"
 #include "KeyboardShortcuts/KeyboardShortcuts.h"
 #include "Platform/SystemConventions.h"
+#include "Vantrel/Interface/QtKeyEvent.h"
 #include "Vantrel/ProfileHotkeys.h"
 #include "Vantrel/Settings/ShortcutTexts.h"
 
@@ -32,6 +33,8 @@ public:
     [[nodiscard]] KeyboardShortcuts &shortcuts() { return shortcuts_; }
     [[nodiscard]] const ProfileHotkeys &hotkeys() const { return hotkeys_; }
     [[nodiscard]] const ShortcutTexts &texts() const { return texts_; }
+    /// What reads this keyboard's key events.
+    [[nodiscard]] KeyEventReader keyReader() const { return keyEventReader(keyboard_.keyNumber); }
 
     /// What the menus show beside the profile; empty without a shortcut.
     [[nodiscard]] QKeySequence keyEquivalentOf(const Profile &profile) const;
@@ -47,6 +50,7 @@ private:
     [[nodiscard]] QString descriptionOf(std::uint32_t keyCode, std::uint32_t modifiers) const;
 
     const ProfileStore &store_;
+    const SystemConventions &conventions_;
     DesktopKeyboard keyboard_;
     KeyboardShortcuts shortcuts_;
     ProfileHotkeys hotkeys_;

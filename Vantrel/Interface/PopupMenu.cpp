@@ -22,13 +22,24 @@ QString escaped(QString title)
 
 } // namespace
 
-PopupMenu::PopupMenu(std::function<Menu()> rows) : rows_(std::move(rows))
+PopupMenu::PopupMenu(std::function<Menu()> rows, TrayHost host) : rows_(std::move(rows)), host_(host)
 {
     setStyle(&style_);
     connect(this, &QMenu::aboutToShow, this, [this] {
         if (!isBuilt_)
             build();
+        isOpen_ = true;
     });
+    connect(this, &QMenu::aboutToHide, this, [this] { isOpen_ = false; });
+    // The system opens no menu without rows. This one is never seen.
+    if (host_ == TrayHost::menuBar)
+        appendText(u"Vantrel"_s);
+}
+
+void PopupMenu::popupInFront(const QPoint &position, ActivationPolicy &policy)
+{
+    policy.activate();
+    popup(position);
 }
 
 void PopupMenu::popupBeside(const QRect &symbol)
@@ -52,8 +63,16 @@ void PopupMenu::popupAsItIs(const QPoint &position)
 
 void PopupMenu::updateRows()
 {
-    if (!isVisible())
+    if (!isOpen_)
         return;
+    if (isVisible())
+        updateDrawnRows();
+    else
+        build();
+}
+
+void PopupMenu::updateDrawnRows()
+{
     const QString active = activeAction() ? activeAction()->objectName() : QString();
     build();
     const QList<QAction *> rows = actions();
@@ -84,15 +103,17 @@ void PopupMenu::append(const MenuItem &item)
 {
     switch (item.kind) {
     case MenuItem::Kind::separator: addSeparator(); return;
-    case MenuItem::Kind::header: addSection(escaped(item.title)); return;
-    case MenuItem::Kind::text: addAction(escaped(item.title))->setEnabled(false); return;
+    case MenuItem::Kind::header: appendHeader(item.title); return;
+    case MenuItem::Kind::text: appendText(item.title); return;
     case MenuItem::Kind::command: break;
     }
     QAction *row = addAction(escaped(item.title));
-    // Qt by itself writes Meta for Super.
-    if (!item.shortcut.isEmpty())
+    // Qt by itself writes Meta for Super. A menu bar has signs for the keys.
+    if (!item.shortcut.isEmpty() && host_ != TrayHost::menuBar)
         row->setText(row->text() + u'\t' + keyText(item.shortcut));
     row->setObjectName(item.id);
+    // Where the menu bar is the system's, Qt would look for the rows that belong elsewhere by their titles.
+    row->setMenuRole(QAction::NoRole);
     row->setShortcut(item.shortcut);
     // Global shortcuts work by themselves; here they are only shown.
     row->setShortcutContext(Qt::WidgetShortcut);
@@ -102,6 +123,20 @@ void PopupMenu::append(const MenuItem &item)
         row->setIconVisibleInMenu(true);
     }
     connect(row, &QAction::triggered, this, item.action);
+}
+
+void PopupMenu::appendHeader(const QString &title)
+{
+    // In a menu bar separators show no text.
+    if (host_ == TrayHost::menuBar)
+        appendText(title);
+    else
+        addSection(escaped(title));
+}
+
+void PopupMenu::appendText(const QString &title)
+{
+    addAction(escaped(title))->setEnabled(false);
 }
 
 } // namespace vantrel

@@ -1,6 +1,8 @@
 #pragma once
 
+#include "Platform/ActivationPolicy.h"
 #include "Platform/Menu.h"
+#include "Platform/TrayHost.h"
 #include "Vantrel/Interface/PopupMenuStyle.h"
 
 #include <QMenu>
@@ -8,17 +10,22 @@
 namespace vantrel {
 
 /// The program's menu where no panel shows it: built anew whenever it opens, and while it is open whenever its rows
-/// change. Main thread only.
+/// change. In a menu bar the system draws and opens it, and this widget stays hidden; only its signals tell that it is
+/// open. Main thread only.
 class PopupMenu final : public QMenu {
 public:
-    explicit PopupMenu(std::function<Menu()> rows);
+    PopupMenu(std::function<Menu()> rows, TrayHost host);
+
+    /// Opens it there, drawn by the toolkit. The program is brought to the front first: the windows of another one that
+    /// is there would be before the menu, and have the keyboard.
+    void popupInFront(const QPoint &position, ActivationPolicy &policy);
 
     /// Opens it below a symbol on the screen, or above it where there is no room below: never over it, where a second
     /// click would choose a row.
     void popupBeside(const QRect &symbol);
 
-    /// Builds the rows anew if the menu is open; the chosen row stays chosen if it is still there, and all rows stay in
-    /// reach.
+    /// Builds the rows anew if the menu is open. In one that the toolkit draws the chosen row stays chosen if it is
+    /// still there, and all rows stay in reach.
     void updateRows();
 
     /// The side of its rows' icons in device pixels, on the screen where it was last.
@@ -28,11 +35,17 @@ private:
     void build();
     /// Opens it with the rows that it has.
     void popupAsItIs(const QPoint &position);
+    void updateDrawnRows();
     void append(const MenuItem &item);
+    void appendHeader(const QString &title);
+    void appendText(const QString &title);
 
     PopupMenuStyle style_;
     std::function<Menu()> rows_;
+    TrayHost host_;
     bool isBuilt_ = false;
+    /// The widget is not visible while the system shows the menu.
+    bool isOpen_ = false;
 };
 
 } // namespace vantrel

@@ -53,6 +53,9 @@ std::optional<std::uint32_t> keyCodeByName(const QKeyEvent &event)
     return std::nullopt;
 }
 
+/// AppKit's flags; the bits below them tell the left keys from the right ones.
+constexpr std::uint32_t deviceIndependentFlags = 0xffff'0000;
+
 struct ModifierPair {
     Qt::KeyboardModifier modifier;
     std::uint32_t flag;
@@ -93,6 +96,22 @@ KeyEvent keyEventByScanCode(const QKeyEvent &event)
     if (event.nativeScanCode() == 0 || isRemapped)
         result.keyCode = keyCodeByName(event);
     return result;
+}
+
+KeyEvent keyEventByVirtualKey(const QKeyEvent &event)
+{
+    return {.type = typeOf(event),
+            .keyCode = event.nativeVirtualKey(),
+            .modifierFlags = event.nativeModifiers() & deviceIndependentFlags};
+}
+
+KeyEventReader keyEventReader(KeyNumber number)
+{
+    switch (number) {
+    case KeyNumber::scanCode: return keyEventByScanCode;
+    case KeyNumber::virtualKey: return keyEventByVirtualKey;
+    }
+    Q_UNREACHABLE();
 }
 
 } // namespace vantrel

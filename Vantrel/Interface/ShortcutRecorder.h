@@ -25,7 +25,8 @@ public:
         std::function<QString(const Shortcut &shortcut)> text;
         /// Says that keys can't be recorded.
         std::function<void()> beep;
-        KeyEventReader readKey = keyEventByScanCode;
+        /// Reads the events of this desktop's keyboard.
+        KeyEventReader readKey;
     };
 
     ShortcutRecorder(ShortcutName name, Environment environment, QWidget *parent = nullptr);

@@ -2,6 +2,7 @@
 
 #include "Platform/ProcessMemory.h"
 #include "Vantrel/Interface/DarkPalette.h"
+#include "Vantrel/Interface/NoTrayNotice.h"
 #include "Vantrel/Interface/SystemTrayIcon.h"
 #include "Vantrel/Pictures/TrayImage.h"
 #include "Vantrel/ProfileMenu.h"
@@ -12,7 +13,6 @@
 #include <QCursor>
 #include <QGuiApplication>
 #include <QInputEvent>
-#include <QMessageBox>
 #include <QStandardPaths>
 #include <QTimer>
 
@@ -20,10 +20,6 @@ using namespace Qt::StringLiterals;
 
 namespace vantrel {
 namespace {
-
-struct Texts {
-    Q_DECLARE_TR_FUNCTIONS(VantrelApp)
-};
 
 ProfileReader profileReader()
 {
@@ -43,27 +39,6 @@ std::optional<Safari::Automation> safariAutomation(DesktopPlatform &desktop, Saf
         Safari::Automation::Environment{*desktop.safari, *desktop.runningApplications, languages, clock, *desktop.log});
 }
 
-/// Once, ever: it would come at each login.
-void tellHomeless(UserDefaults &defaults)
-{
-    const QString key = u"toldThatThereIsNoTray"_s;
-    if (defaults.value(key).toBool())
-        return;
-    defaults.setValue(key, true);
-    //: Title of the notice on desktops without a tray.
-    auto *box = new QMessageBox(QMessageBox::Information, u"Vantrel"_s, Texts::tr("This desktop has no tray"));
-    //: Notice on desktops without a tray. The placeholder is a command.
-    box->setInformativeText(
-        Texts::tr("Vantrel is running, but there is no place for its symbol. Start Vantrel again to "
-                  "open its settings, or give the command “%1” a keyboard shortcut of your desktop "
-                  "to open its menu.")
-            .arg(u"vantrel menu"_s));
-    box->setAttribute(Qt::WA_DeleteOnClose);
-    // The settings that it speaks of can be opened beside it.
-    box->setWindowModality(Qt::NonModal);
-    box->show();
-}
-
 } // namespace
 
 VantrelApp::VantrelApp(Platform &platform, DesktopPlatform &desktop, QString build)
@@ -77,6 +52,7 @@ VantrelApp::VantrelApp(Platform &platform, DesktopPlatform &desktop, QString bui
                  {*platform.workspace, *platform.browserData, *desktop.runningApplications, desktop.folderAccess.get(),
                   safari_ ? &safari_->search() : nullptr},
                  profileReader()),
+      alert_(*desktop.activationPolicy),
       opener_(store_, {*platform.workspace, alert_, *desktop.log, safari_ ? &safari_->windows() : nullptr}),
       links_(store_, discovery_, opener_),
       requests_({store_, discovery_, opener_, icons_, *platform.activation,
@@ -84,9 +60,10 @@ VantrelApp::VantrelApp(Platform &platform, DesktopPlatform &desktop, QString bui
       launchers_({*desktop.activationPolicy, alert_, *desktop.log, desktop.savePanel.get()}),
       symbols_(desktop.symbols.get()),
       settingsWindows_(*desktop.activationPolicy),
-      popup_([this] { return menu(); }),
+      popup_([this] { return menu(); }, desktop.trayHost),
       tray_({desktop.statusItem.get(), [this] { return std::make_unique<SystemTrayIcon>(popup_, desktop_.trayHost); },
-             *desktop.log, [this] { tellHomeless(*desktop_.userDefaults); }, [this] { startSoon(); }})
+             *desktop.log, [this] { NoTrayNotice(*desktop_.userDefaults, *desktop_.activationPolicy).showOnce(); },
+             [this] { startSoon(); }})
 {
     connect(&store_, &ProfileStore::changed, this, &VantrelApp::takeStoreChange);
     offerProfiles();
@@ -171,7 +148,7 @@ void VantrelApp::showMenu()
         connect(&discovery_, &DiscoveryRuns::idle, this, &VantrelApp::showMenu, Qt::SingleShotConnection);
         return;
     }
-    popup_.popup(QCursor::pos());
+    popup_.popupInFront(QCursor::pos(), *desktop_.activationPolicy);
 }
 
 void VantrelApp::showSettings(SettingsModel::Tab tab)
@@ -194,6 +171,7 @@ SettingsWindow *VantrelApp::makeSettingsWindow()
         .shortcuts = shortcuts().shortcuts(),
         .hotkeys = shortcuts().hotkeys(),
         .shortcutTexts = shortcuts().texts(),
+        .readKey = shortcuts().keyReader(),
         .icons = icons_,
         .launchers = launchers_,
         .browserData = *platform_.browserData,

@@ -18,7 +18,8 @@ struct Texts {
 QString ShortcutTexts::text(const Shortcut &shortcut) const
 {
     const KeyboardLayout &layout = *keyboard_.layout;
-    QString keys = conventions_.showsKeySigns ? shortcut.description(layout) : keyText(keyEquivalent(shortcut, layout));
+    QString keys = conventions_.showsKeySigns ? shortcut.description(layout)
+                                              : keyText(keyEquivalent(shortcut, layout, QtKeyNames::pc));
     const auto id = shortcuts_.hotKeyId(shortcut);
     const auto granted = id ? keyboard_.hotKeys->grantedTrigger(*id) : std::nullopt;
     if (!granted)

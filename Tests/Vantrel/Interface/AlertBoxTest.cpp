@@ -1,9 +1,9 @@
 #include "Vantrel/Interface/AlertBox.h"
 
+#include "Tests/Fakes/FakeActivationPolicy.h"
+#include "Tests/Vantrel/Interface/OpenBox.h"
 #include "Tests/VantrelKit/Printing.h"
 
-#include <QApplication>
-#include <QMessageBox>
 #include <QTest>
 
 #include <gtest/gtest.h>
@@ -13,19 +13,18 @@ using namespace Qt::StringLiterals;
 namespace vantrel {
 namespace {
 
-/// The alert that is open.
-QMessageBox *openBox()
+using test::openBox;
+
+void answer(QMessageBox *box)
 {
-    for (QWidget *widget : QApplication::topLevelWidgets()) {
-        if (auto *box = qobject_cast<QMessageBox *>(widget))
-            return box;
-    }
-    return nullptr;
+    QTest::keyClick(box, Qt::Key_Return);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
 }
 
 TEST(AlertBox, ShowsTitleAndMessageAsTheyAreAndReturnsAtOnce)
 {
-    AlertBox().show(u"The Profile Didn't Open"_s, u"<b>Work</b> &amp; more\nsecond line"_s);
+    test::FakeActivationPolicy policy;
+    AlertBox(policy).show(u"The Profile Didn't Open"_s, u"<b>Work</b> &amp; more\nsecond line"_s);
     QMessageBox *box = openBox();
     ASSERT_NE(box, nullptr);
     EXPECT_TRUE(box->isVisible());
@@ -34,9 +33,20 @@ TEST(AlertBox, ShowsTitleAndMessageAsTheyAreAndReturnsAtOnce)
     EXPECT_EQ(box->informativeText(), u"<b>Work</b> &amp; more\nsecond line"_s);
     EXPECT_EQ(box->textFormat(), Qt::PlainText);
     EXPECT_EQ(box->standardButtons(), QMessageBox::Ok);
-    QTest::keyClick(box, Qt::Key_Return);
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    answer(box);
     EXPECT_EQ(openBox(), nullptr);
+}
+
+TEST(AlertBox, TheProgramComesToTheFrontBeforeItIsShown)
+{
+    test::FakeActivationPolicy policy;
+    bool wasShown = false;
+    policy.onActivate([&] { wasShown = openBox() && openBox()->isVisible(); });
+    AlertBox(policy).show(u"Title"_s, u"Message"_s);
+    ASSERT_NE(openBox(), nullptr);
+    EXPECT_EQ(policy.activations(), 1);
+    EXPECT_FALSE(wasShown);
+    answer(openBox());
 }
 
 } // namespace

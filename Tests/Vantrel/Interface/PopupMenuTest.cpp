@@ -1,5 +1,6 @@
 #include "Vantrel/Interface/PopupMenu.h"
 
+#include "Tests/Fakes/FakeActivationPolicy.h"
 #include "Tests/VantrelKit/Samples.h"
 
 #include <QAction>
@@ -47,7 +48,7 @@ protected:
 
     Menu rows_;
     QStringList chosen_;
-    PopupMenu menu_{[this] { return rows_; }};
+    PopupMenu menu_{[this] { return rows_; }, TrayHost::plain};
 };
 
 TEST_F(PopupMenuTest, IsBuiltAnewEachTimeItOpens)
@@ -132,6 +133,19 @@ TEST_F(PopupMenuTest, OpensBesideASymbolAndNeverOverIt)
         EXPECT_EQ(titles().size(), 10);
         menu_.close();
     }
+}
+
+TEST_F(PopupMenuTest, TheProgramComesToTheFrontBeforeItsMenuOpens)
+{
+    rows_ = {command(u"One"_s, u"1"_s)};
+    test::FakeActivationPolicy policy;
+    bool wasOpen = false;
+    policy.onActivate([&] { wasOpen = menu_.isVisible(); });
+    menu_.popupInFront({10, 10}, policy);
+    EXPECT_EQ(policy.activations(), 1);
+    EXPECT_FALSE(wasOpen);
+    EXPECT_TRUE(menu_.isVisible());
+    EXPECT_EQ(titles(), QStringList(u"One"_s));
 }
 
 TEST_F(PopupMenuTest, AMenuThatGrowsWhileItIsOpenStaysInReach)

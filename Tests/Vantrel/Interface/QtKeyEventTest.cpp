@@ -72,5 +72,51 @@ TEST(QtKeyEvent, KeysThatMacintoshKeyboardsDoNotHaveHaveNoCode)
     EXPECT_EQ(read(7, Qt::Key_A).keyCode, std::nullopt);
 }
 
+KeyEvent readVirtual(quint32 virtualKey, quint32 nativeModifiers, int key, Qt::KeyboardModifiers modifiers = {},
+                     QEvent::Type type = QEvent::KeyPress)
+{
+    return keyEventByVirtualKey(QKeyEvent(type, key, modifiers, 0, virtualKey, nativeModifiers));
+}
+
+TEST(QtKeyEvent, AVirtualKeyIsTheCodeAndZeroIsTheKeyOfA)
+{
+    EXPECT_EQ(readVirtual(0, 0, Qt::Key_A).keyCode, 0U);
+    EXPECT_EQ(readVirtual(0, 0, Qt::Key_Q).keyCode, 0U);
+    EXPECT_EQ(readVirtual(35, 0, Qt::Key_P).keyCode, 35U);
+    EXPECT_EQ(readVirtual(53, 0, Qt::Key_Escape).keyCode, 53U);
+    EXPECT_EQ(readVirtual(114, 0, Qt::Key_Help).keyCode, 114U);
+}
+
+TEST(QtKeyEvent, BesideAVirtualKeyTheNativeModifiersCount)
+{
+    // As Qt has it on macOS, Control is Meta and Command is Control.
+    const KeyEvent event =
+        readVirtual(35, AppKitFlag::control | AppKitFlag::option, Qt::Key_P, Qt::MetaModifier | Qt::AltModifier);
+    EXPECT_EQ(event.modifierFlags, AppKitFlag::control | AppKitFlag::option);
+    EXPECT_EQ(readVirtual(35, AppKitFlag::command, Qt::Key_P, Qt::ControlModifier).modifierFlags, AppKitFlag::command);
+    EXPECT_EQ(readVirtual(96, AppKitFlag::function, Qt::Key_F5).modifierFlags, AppKitFlag::function);
+    // The low bits say which of two keys it is.
+    EXPECT_EQ(readVirtual(35, AppKitFlag::control | 0x2101, Qt::Key_P).modifierFlags, AppKitFlag::control);
+}
+
+TEST(QtKeyEvent, ModifierKeysOnlyChangeFlagsWhateverTheirVirtualKey)
+{
+    // Qt hands them on without one.
+    for (const Qt::Key key : {Qt::Key_Shift, Qt::Key_Control, Qt::Key_Alt, Qt::Key_Meta, Qt::Key_CapsLock})
+        EXPECT_EQ(readVirtual(0, AppKitFlag::shift, key).type, Type::flagsChanged) << key;
+    EXPECT_EQ(readVirtual(0, 0, Qt::Key_A).type, Type::keyDown);
+    EXPECT_EQ(readVirtual(0, 0, Qt::Key_A, {}, QEvent::KeyRelease).type, Type::keyUp);
+}
+
+TEST(QtKeyEvent, TheReaderIsThatOfTheKeyboardsNumber)
+{
+    // The same numbers are P by its scan code, and F16 by its virtual key.
+    const QKeyEvent event(QEvent::KeyPress, Qt::Key_P, Qt::ControlModifier, 33, 106, AppKitFlag::command);
+    EXPECT_EQ(keyEventReader(KeyNumber::scanCode)(event).keyCode, 35U);
+    EXPECT_EQ(keyEventReader(KeyNumber::scanCode)(event).modifierFlags, AppKitFlag::control);
+    EXPECT_EQ(keyEventReader(KeyNumber::virtualKey)(event).keyCode, 106U);
+    EXPECT_EQ(keyEventReader(KeyNumber::virtualKey)(event).modifierFlags, AppKitFlag::command);
+}
+
 } // namespace
 } // namespace vantrel

@@ -62,6 +62,7 @@ protected:
             .allNames = [this] { return QList<ShortcutName>{nameOne_, nameTwo_}; },
             .text = [this](const Shortcut &shortcut) { return shortcut.description(layout_); },
             .beep = [this] { ++beeps_; },
+            .readKey = keyEventByScanCode,
         };
     }
 

@@ -37,6 +37,8 @@ TEST_F(ShortcutTextsTest, KeysAreReadAsTheSystemWritesThem)
     EXPECT_EQ(texts_.text(controlOptionP), u"Ctrl+Alt+P"_s);
     conventions_.showsKeySigns = true;
     EXPECT_EQ(texts_.text(controlOptionP), u"⌃⌥P"_s);
+    conventions_.qtKeyNames = QtKeyNames::macintosh;
+    EXPECT_EQ(texts_.text(controlOptionP), u"⌃⌥P"_s);
 }
 
 TEST_F(ShortcutTextsTest, KeysThatTheDesktopGaveInsteadAreShown)

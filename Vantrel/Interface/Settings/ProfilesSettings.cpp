@@ -162,6 +162,7 @@ ShortcutRecorder *ProfilesSettings::makeRecorder(const QString &profileID, QWidg
             .allNames = [this] { return environment_.hotkeys.profileShortcutNames(); },
             .text = [this](const Shortcut &shortcut) { return environment_.shortcutTexts.text(shortcut); },
             .beep = [] { QApplication::beep(); },
+            .readKey = environment_.readKey,
         },
         parent);
 }

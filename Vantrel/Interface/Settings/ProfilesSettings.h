@@ -3,6 +3,7 @@
 #include "Platform/BrowserData.h"
 #include "Vantrel/DiscoveryRuns.h"
 #include "Vantrel/Interface/ProfileLaunchers.h"
+#include "Vantrel/Interface/QtKeyEvent.h"
 #include "Vantrel/Interface/Settings/ProfilesView.h"
 #include "Vantrel/Pictures/ProfileIconCache.h"
 #include "Vantrel/ProfileHotkeys.h"
@@ -29,6 +30,8 @@ public:
         KeyboardShortcuts &shortcuts;
         const ProfileHotkeys &hotkeys;
         const ShortcutTexts &shortcutTexts;
+        /// Reads the events of this desktop's keyboard.
+        KeyEventReader readKey;
         ProfileIconCache &icons;
         ProfileLaunchers &launchers;
         const BrowserData &browserData;

@@ -11,6 +11,12 @@ typedef NS_ENUM(NSInteger, SMAppServiceStatus) {
     SMAppServiceStatusRequiresApproval = 2,
     SMAppServiceStatusNotFound = 3,
 };
+// https://developer.apple.com/documentation/servicemanagement/smerrors
+enum {
+    kSMErrorJobNotFound = 6,
+    kSMErrorLaunchDeniedByUser = 11,
+    kSMErrorAlreadyRegistered = 12,
+};
 @interface SMAppService : NSObject
 @property(class, readonly) SMAppService *mainAppService;
 @property(readonly) SMAppServiceStatus status;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Tests/Fakes/FakeActivationPolicy.h"
 #include "Tests/Fakes/FakeAlert.h"
 #include "Tests/Fakes/FakeBrowserData.h"
 #include "Tests/Fakes/FakeDesktopHotKeys.h"
@@ -18,20 +19,6 @@
 
 namespace vantrel::test {
 
-class CountedPolicy final : public ActivationPolicy {
-public:
-    void becomeRegular() override { isRegular_ = true; }
-    void becomeAccessory() override { isRegular_ = false; }
-    void activate() override { ++activations_; }
-
-    [[nodiscard]] bool isRegular() const { return isRegular_; }
-    [[nodiscard]] int activations() const { return activations_; }
-
-private:
-    bool isRegular_ = false;
-    int activations_ = 0;
-};
-
 /// A program whose every port is played, and what its settings window works with.
 struct SettingsProgram {
     /// These are the browsers that there are from now on.
@@ -47,7 +34,7 @@ struct SettingsProgram {
         return {
             .model = model,
             .windows = windows,
-            .profiles = {store, discovery, opener, shortcuts, hotkeys, texts, icons, launchers, data, symbols},
+            .profiles = {store, discovery, opener, shortcuts, hotkeys, texts, readKey, icons, launchers, data, symbols},
             .general = {.store = store,
                         .alert = alert,
                         .conventions = conventions,
@@ -67,9 +54,10 @@ struct SettingsProgram {
     FakeLoginItem loginItem;
     FakeUpdater updater;
     FakeAccessibilityTrust accessibility;
-    CountedPolicy policy;
+    FakeActivationPolicy policy;
     bool hasSafari = false;
     bool hasUpdater = false;
+    KeyEventReader readKey = keyEventByScanCode;
     SystemConventions conventions{.linkCommand = QStringLiteral("xdg-open")};
     DesktopKeyboard keyboard{std::make_unique<FakeDesktopHotKeys>(), std::make_unique<FakeKeyboardLayout>()};
     FakeDesktopHotKeys &hotKeys = static_cast<FakeDesktopHotKeys &>(*keyboard.hotKeys);
