@@ -280,16 +280,16 @@ TEST_F(ProfilesSettingsTest, RecordersAreThoseOfTheProfiles)
 
 TEST_F(ProfilesSettingsTest, RecordersReadTheKeysOfThisKeyboard)
 {
-    readKey_ = keyEventByVirtualKey;
+    program_.readKey = keyEventByVirtualKey;
     discover(chrome, {u"1"_s});
-    hotkeys_.start();
+    program_.hotkeys.start();
     show();
     click(button(u"Record Shortcut"_s));
     // ⌃⌥P as macOS sends it: by its scan code, it would be nothing.
     QKeyEvent press(QEvent::KeyPress, Qt::Key_P, Qt::MetaModifier | Qt::AltModifier, 0, 35,
                     AppKitFlag::control | AppKitFlag::option);
     QApplication::sendEvent(QApplication::focusWidget(), &press);
-    EXPECT_EQ(shortcuts_.getShortcut(ShortcutName{u"profile."_s + id(u"c:1"_s)}),
+    EXPECT_EQ(program_.shortcuts.getShortcut(ShortcutName{u"profile."_s + id(u"c:1"_s)}),
               (Shortcut{35, CarbonModifier::control | CarbonModifier::option}));
 }
 
