@@ -255,22 +255,10 @@ GlobalShortcuts &VantrelApp::shortcuts()
 {
     if (shortcuts_)
         return *shortcuts_;
-<<<<<<< ours
     GlobalShortcuts &made = shortcuts_.emplace(GlobalShortcuts::Environment{
         *platform_.activation, *desktop_.userDefaults, store_, opener_, desktop_.conventions});
     connectShortcuts(made);
     return made;
-=======
-    GlobalShortcuts &made = makeShortcuts();
-    connectShortcuts(made);
-    return made;
-}
-
-GlobalShortcuts &VantrelApp::makeShortcuts()
-{
-    return shortcuts_.emplace(GlobalShortcuts::Environment{*platform_.activation, *desktop_.userDefaults, store_,
-                                                           opener_, desktop_.conventions});
->>>>>>> theirs
 }
 
 void VantrelApp::connectShortcuts(GlobalShortcuts &made)
