@@ -758,9 +758,9 @@ many profiles it has, and what failed.</source>
         <translation>لا توفر بيئة سطح المكتب هذه اختصارات لوحة مفاتيح للبرامج. يمكن في إعداداتها تخصيص اختصار لأمر: «نسخ الأمر» يعطي أمر «⁦vantrel open⁩» لملف شخصي.</translation>
     </message>
     <message>
-        <source>The desktop didn&apos;t let Vantrel have keyboard shortcuts. Allow them in its settings, or give one there to a command: Copy Command gives the “vantrel open” command of a profile.</source>
-        <extracomment>Above the list of profiles. “vantrel open” is a command, Copy Command the button beside each profile.</extracomment>
-        <translation>لم تسمح بيئة سطح المكتب لـ Vantrel باختصارات لوحة المفاتيح. اسمح بها في إعداداتها، أو خصِّص هناك اختصارًا لأمر: «نسخ الأمر» يعطي أمر «⁦vantrel open⁩» لملف شخصي.</translation>
+        <source>The desktop didn&apos;t let Vantrel have its keyboard shortcuts. Allow them in its settings, or record one again to be asked once more. It can also give a shortcut to the command “vantrel open” with a profile&apos;s id, which “vantrel list” prints.</source>
+        <extracomment>Above the list of profiles. “vantrel open” and “vantrel list” are commands.</extracomment>
+        <translation>لم يسمح سطح المكتب لـ Vantrel باختصارات لوحة المفاتيح. اسمح بها في إعداداته، أو سجّل اختصارًا من جديد ليُطلب الإذن مرة أخرى. ويمكنه أيضًا أن يعطي اختصارًا للأمر «⁦vantrel open⁩» مع معرّف ملف شخصي يطبعه «⁦vantrel list⁩».</translation>
     </message>
 </context>
 <context>

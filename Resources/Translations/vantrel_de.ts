@@ -754,9 +754,9 @@ liegen, wie viele Profile er hat und was fehlgeschlagen ist.</translation>
         <translation>Diese Arbeitsumgebung bietet keine Tastenkürzel für Programme. In ihren eigenen Einstellungen lässt sich aber einem Befehl eines geben: „Befehl kopieren“ liefert den Befehl „vantrel open“ für ein Profil.</translation>
     </message>
     <message>
-        <source>The desktop didn&apos;t let Vantrel have keyboard shortcuts. Allow them in its settings, or give one there to a command: Copy Command gives the “vantrel open” command of a profile.</source>
-        <extracomment>Above the list of profiles. “vantrel open” is a command, Copy Command the button beside each profile.</extracomment>
-        <translation>Die Arbeitsumgebung hat Vantrel keine Tastenkürzel überlassen. In ihren Einstellungen lassen sie sich erlauben, oder dort lässt sich einem Befehl eines geben: „Befehl kopieren“ liefert den Befehl „vantrel open“ für ein Profil.</translation>
+        <source>The desktop didn&apos;t let Vantrel have its keyboard shortcuts. Allow them in its settings, or record one again to be asked once more. It can also give a shortcut to the command “vantrel open” with a profile&apos;s id, which “vantrel list” prints.</source>
+        <extracomment>Above the list of profiles. “vantrel open” and “vantrel list” are commands.</extracomment>
+        <translation>Die Arbeitsumgebung hat Vantrel seine Tastenkürzel nicht überlassen. In deren Einstellungen lassen sie sich erlauben; wird eines neu aufgenommen, fragt sie noch einmal. Sie kann auch dem Befehl „vantrel open“ mit der Kennung eines Profils, die „vantrel list“ ausgibt, ein Kürzel geben.</translation>
     </message>
 </context>
 <context>

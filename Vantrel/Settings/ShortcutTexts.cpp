@@ -30,13 +30,8 @@ QString ShortcutTexts::text(const Shortcut &shortcut) const
 
 bool ShortcutTexts::areAvailable() const
 {
-    switch (keyboard_.hotKeys->availability()) {
-    case DesktopHotKeys::Availability::unknown:
-    case DesktopHotKeys::Availability::available: return true;
-    case DesktopHotKeys::Availability::notAvailable:
-    case DesktopHotKeys::Availability::refused: return false;
-    }
-    Q_UNREACHABLE();
+    // What was refused is asked for once more with the next one that is recorded.
+    return keyboard_.hotKeys->availability() != DesktopHotKeys::Availability::notAvailable;
 }
 
 std::optional<SettingsNote> ShortcutTexts::note() const
@@ -50,10 +45,11 @@ std::optional<SettingsNote> ShortcutTexts::note() const
         return note(Texts::tr("This desktop has no keyboard shortcuts for programs. Its own settings can give one to a "
                               "command: Copy Command gives the “vantrel open” command of a profile."));
     case DesktopHotKeys::Availability::refused:
-        //: Above the list of profiles. “vantrel open” is a command, Copy Command the button beside each profile.
-        return note(Texts::tr("The desktop didn't let Vantrel have keyboard shortcuts. Allow them in its settings, or "
-                              "give one there to a command: Copy Command gives the “vantrel open” command of a "
-                              "profile."));
+        //: Above the list of profiles. “vantrel open” and “vantrel list” are commands.
+        return note(
+            Texts::tr("The desktop didn't let Vantrel have its keyboard shortcuts. Allow them in its settings, or "
+                      "record one again to be asked once more. It can also give a shortcut to the command "
+                      "“vantrel open” with a profile's id, which “vantrel list” prints."));
     }
     Q_UNREACHABLE();
 }
