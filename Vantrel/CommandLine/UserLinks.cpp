@@ -1,5 +1,6 @@
 #include "Vantrel/CommandLine/UserLinks.h"
 
+#include "VantrelKit/Paths.h"
 #include "VantrelKit/WebLinks.h"
 
 #include <QDir>
@@ -25,7 +26,8 @@ bool isUsable(const QUrl &url)
 /// A text without a scheme: a file's name, or a host's.
 std::optional<QUrl> completed(const QString &text, const QString &workingDirectory)
 {
-    const QFileInfo file(QDir(workingDirectory), text);
+    // Joined by hand: to Qt, a path that begins with a colon is one within the program.
+    const QFileInfo file(text.startsWith(u'/') ? text : joinedPath(workingDirectory, text));
     const bool isFile = file.exists() || (text.startsWith(u'/') && !text.startsWith("//"_L1));
     const QUrl url = isFile ? QUrl::fromLocalFile(QDir::cleanPath(file.absoluteFilePath())) : QUrl::fromUserInput(text);
     return isUsable(url) && url.isLocalFile() == isFile ? std::optional(url) : std::nullopt;

@@ -3,6 +3,7 @@
 #include "Vantrel/CommandLine/LauncherCommand.h"
 #include "Vantrel/CommandLine/NamedProfile.h"
 #include "Vantrel/Launchers/ProfileLauncher.h"
+#include "VantrelKit/Paths.h"
 #include "VantrelKit/PrintableText.h"
 
 #include <QCoreApplication>
@@ -37,7 +38,9 @@ QCoro::Task<ExitStatus> LauncherTask::run(CommandArguments arguments, CommandCon
 {
     Folder folder = arguments.value(QString(LauncherCommand::outputOption));
     if (folder) {
-        const QString path = QDir::cleanPath(QDir(context.workingDirectory).absoluteFilePath(*folder));
+        // Joined by hand: to Qt, a path that begins with a colon is one within the program.
+        const QString path =
+            QDir::cleanPath(folder->startsWith(u'/') ? *folder : joinedPath(context.workingDirectory, *folder));
         if (folder->isEmpty() || !QFileInfo(path).isDir()) {
             //: Error of the command line. The placeholder is what the user wrote.
             co_return failed(Texts::tr("There is no folder “%1”.").arg(printable(*folder)), context);

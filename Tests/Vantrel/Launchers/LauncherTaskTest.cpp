@@ -83,6 +83,8 @@ TEST_F(LauncherTaskTest, AnotherFolderIsTakenFromWhereTheUserIs)
 TEST_F(LauncherTaskTest, AFolderThatIsNotThereIsNotMade)
 {
     EXPECT_EQ(launcher({u"--output"_s, u"no\nwhere"_s, u"Work"_s}), failed(u"There is no folder “no\\nwhere”."_s));
+    // To Qt, the folder of what is in the program.
+    EXPECT_EQ(launcher({u"--output"_s, u":"_s, u"Work"_s}), failed(u"There is no folder “:”."_s));
     EXPECT_EQ(launcher({u"--output"_s, u""_s, u"Work"_s}), failed(u"There is no folder “”."_s));
     planted.folder.write(u"file"_s);
     EXPECT_EQ(launcher({u"--output"_s, u"file"_s, u"Work"_s}), failed(u"There is no folder “file”."_s));
