@@ -82,8 +82,7 @@ public:
     {
         openings_.append({application, arguments});
         const auto refusal = refusalOf(application, openings_.size());
-        if (holds_)
-            co_await Turn{held_};
+        co_await Turn{holds_ ? &held_ : nullptr};
         if (refusal)
             co_return std::unexpected(*refusal);
         co_return {};
@@ -92,10 +91,11 @@ public:
 private:
     /// The wait of a start until its turn comes.
     struct Turn {
-        std::deque<std::coroutine_handle<>> &waiting;
+        /// Null when it has come.
+        std::deque<std::coroutine_handle<>> *waiting;
 
-        [[nodiscard]] static bool await_ready() noexcept { return false; }
-        void await_suspend(std::coroutine_handle<> start) { waiting.push_back(start); }
+        [[nodiscard]] bool await_ready() const noexcept { return waiting == nullptr; }
+        void await_suspend(std::coroutine_handle<> start) const { waiting->push_back(start); }
         void await_resume() const noexcept {}
     };
 
