@@ -20,6 +20,11 @@ using namespace vantrel;
 
 namespace {
 
+DiscoveredProfile discovered(int number)
+{
+    return {u"Клиент & Söhne %1"_s.arg(number), u"Profile %1"_s.arg(number)};
+}
+
 constexpr int browserCount = 8;
 constexpr int profilesPerBrowser = 1250;
 constexpr qsizetype noLimit = std::numeric_limits<qsizetype>::max();
@@ -37,7 +42,7 @@ public:
             browsers.append({id, u"Browser %1"_s.arg(browser), {}, BrowserFamily::chromium});
             QList<DiscoveredProfile> profiles;
             for (int number = 0; number < profilesPerBrowser; ++number)
-                profiles.append({u"Клиент & Söhne %1"_s.arg(number), u"Profile %1"_s.arg(number)});
+                profiles.append(discovered(number));
             results.insert(id, profiles);
         }
         store_.setBrowsers(browsers);
