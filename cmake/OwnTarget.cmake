@@ -35,8 +35,8 @@ endfunction()
 function(vantrel_precompile target)
   get_target_property(sources ${target} SOURCES)
   list(LENGTH sources count)
-  # Precompiling takes as long as it saves in seven sources.
-  if(VANTREL_PRECOMPILE AND count GREATER 8)
+  # Precompiling takes as long as it saves in two or three sources.
+  if(VANTREL_PRECOMPILE AND count GREATER 3)
     target_precompile_headers(${target} PRIVATE ${ARGN}
       <algorithm> <chrono> <expected> <functional> <memory> <optional> <vector>
       <QByteArray> <QCoreApplication> <QDir> <QFile> <QFileInfo> <QHash> <QJsonDocument> <QJsonObject> <QList> <QObject>
