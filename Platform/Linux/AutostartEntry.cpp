@@ -24,7 +24,7 @@ struct Deleter {
 
 enum class State : std::uint8_t { none, on, off };
 
-/// Hidden is the specification's way to switch an entry off, the other key that of some desktops' settings.
+/// Hidden is the format's own way to switch an entry off, the other key that of some desktops' settings.
 State stateOf(const QString &path)
 {
     if (!QFileInfo(path).isFile())
