@@ -79,9 +79,10 @@ void ProfilesSettings::connectView()
 {
     connect(view_, &ProfilesView::searchAsked, &environment_.discovery, &DiscoveryRuns::searchSafari);
     connect(view_, &ProfilesView::noteActionAsked, this, &ProfilesSettings::act);
-    connect(view_, &ProfilesView::renamed, this, [this](const QString &id, const QString &name) {
-        if (const Profile *named = profile(id))
-            environment_.store.rename(Profile(*named), name);
+    connect(view_, &ProfilesView::renamed, this, [this](const Profile &named, const QString &name) {
+        // One that has gone keeps the name for when it returns.
+        const Profile *present = profile(named.id());
+        environment_.store.rename(present ? Profile(*present) : named, name);
     });
     connect(view_, &ProfilesView::hiddenToggled, this, [this](const QString &id, bool isHidden) {
         if (const Profile *toggled = profile(id))

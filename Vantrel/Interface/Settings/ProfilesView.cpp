@@ -111,11 +111,10 @@ void ProfilesView::arrange()
     isArranging_ = true;
     // What is at the top stays there when something is added or taken away above it.
     const int scrolled = verticalScrollBar()->value();
-    const QList<SectionLayout::Row> visible = layout_.rowsBetween(scrolled - margin, scrolled - margin + 1);
     QString first;
     int offset = 0;
     for (const ProfileRow *row : std::as_const(rows_)) {
-        if (!visible.isEmpty() && row->y() <= scrolled && row->y() + row->height() > scrolled) {
+        if (row->y() <= scrolled && row->y() + row->height() > scrolled) {
             first = row->profileID();
             offset = scrolled - row->y();
         }
@@ -208,7 +207,7 @@ ProfileRow *ProfilesView::makeRow(const Profile &profile)
 {
     auto *row = new ProfileRow(environment_.row, environment_.contentOf(profile), canvas_);
     const QString id = profile.id();
-    connect(row, &ProfileRow::renamed, this, [this, id](const QString &name) { Q_EMIT renamed(id, name); });
+    connect(row, &ProfileRow::renamed, this, [this, profile](const QString &name) { Q_EMIT renamed(profile, name); });
     connect(row, &ProfileRow::hiddenToggled, this, [this, id](bool isHidden) { Q_EMIT hiddenToggled(id, isHidden); });
     connect(row, &ProfileRow::menuAsked, this, [this, id](const QPoint &place) { Q_EMIT menuAsked(id, place); });
     connect(row, &ProfileRow::commandAsked, this, [this, id] { Q_EMIT commandAsked(id); });

@@ -48,7 +48,8 @@ public:
 Q_SIGNALS:
     void searchAsked(const QString &bundleID);
     void noteActionAsked(const QString &bundleID, vantrel::SettingsNote::Action action);
-    void renamed(const QString &profileID, const QString &name);
+    /// As the profile was when its row was made; it may have gone meanwhile.
+    void renamed(const vantrel::Profile &profile, const QString &name);
     void hiddenToggled(const QString &profileID, bool isHidden);
     void menuAsked(const QString &profileID, const QPoint &place);
     void commandAsked(const QString &profileID);

@@ -147,7 +147,9 @@ TEST_F(ProfilesSettingsTest, AnEditOfAProfileThatGoesIsKept)
     QTest::keyClicks(name(u"c:1"_s), u"Home"_s);
     discover(chrome, {u"2"_s});
     EXPECT_EQ(rows(), u"c:2 c:private"_s);
+    EXPECT_EQ(program_.store.customNames().value(id(u"c:1"_s)), u"Home"_s);
     discover(chrome, {u"2"_s, u"1"_s});
+    EXPECT_EQ(name(u"c:1"_s)->text(), u"Home"_s);
     EXPECT_EQ(name(u"c:2"_s)->text(), u"2"_s);
 }
 
