@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Platform/Linux/Processes/ProcessHandle.h"
+#include "Platform/Linux/ProcessHandle.h"
 
 #include <QString>
 #include <QStringList>

@@ -3,6 +3,7 @@
 #include "Tests/Platform/Linux/PlantedHome.h"
 #include "Tests/Platform/Linux/ReportChannel.h"
 #include "Tests/Platform/Linux/ScopedVariable.h"
+#include "Tests/Vantrel/EventLoop.h"
 #include "Tests/VantrelKit/Samples.h"
 
 #include <QFile>
@@ -175,6 +176,26 @@ TEST_F(DetachedProcess, ItLivesOnWhenItsParentEndsAndItsTerminalCloses)
     ASSERT_TRUE(startInATerminalThatCloses([this] { return start({test::reportingProgram()}).has_value(); }));
     EXPECT_TRUE(channel_.release()) << "The program is no longer there.";
     EXPECT_TRUE(channel_.next().has_value());
+}
+
+/// Whether this process has a child, be it one that has ended and was not asked for since.
+bool hasAChild()
+{
+    siginfo_t child{};
+    return waitid(P_ALL, 0, &child, WEXITED | WNOHANG | WNOWAIT) == 0;
+}
+
+TEST_F(DetachedProcess, NothingStaysOfItInARunningProgramOnceItHasEnded)
+{
+    // Those of other cases, which had no event loop.
+    while (waitpid(-1, nullptr, 0) > 0)
+        ;
+    const test::EventProgram program;
+    channel_.hold();
+    ASSERT_TRUE(start({test::reportingProgram()}).has_value());
+    EXPECT_TRUE(hasAChild());
+    ASSERT_TRUE(channel_.release());
+    EXPECT_TRUE(test::waitUntil([] { return !hasAChild(); }));
 }
 
 TEST_F(DetachedProcess, AProgramWithoutASlashIsFoundThroughPath)

@@ -1,4 +1,4 @@
-#include "Platform/Linux/Processes/ProcessHandle.h"
+#include "Platform/Linux/ProcessHandle.h"
 
 #include <QFile>
 #include <QFileInfo>
