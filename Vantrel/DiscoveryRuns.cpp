@@ -90,7 +90,10 @@ void DiscoveryRuns::discover(const QList<Browser> &browsers)
     const auto read = [reader = reader_, &data = environment_.browserData, free] {
         return discoverBrowsers(reader, data, free);
     };
-    QtConcurrent::run(&pool_, read).then(this, [this](const DiscoveryResults &results) { finish(results); });
+    QtConcurrent::run(&pool_, read).then(this, [this](const DiscoveryResults &results) {
+        // When all is read by now this is called at once, and who starts a run isn't told of its end from within.
+        QMetaObject::invokeMethod(this, [this, results] { finish(results); }, Qt::QueuedConnection);
+    });
 }
 
 void DiscoveryRuns::finish(const DiscoveryResults &results)
