@@ -2,6 +2,10 @@
 
 #include "VantrelKit/Paths.h"
 
+#include <QFile>
+
+#include <sys/stat.h>
+
 using namespace Qt::StringLiterals;
 
 namespace vantrel {
@@ -23,7 +27,19 @@ bool isWordForTruth(const QVariant &value)
 
 } // namespace
 
-LinuxUserDefaults::LinuxUserDefaults(const QString &path) : settings_(path, QSettings::IniFormat) {}
+LinuxUserDefaults::FileState LinuxUserDefaults::FileState::of(const QByteArray &file)
+{
+    struct stat found{};
+    if (stat(file.constData(), &found) != 0)
+        return {};
+    return {found.st_ino, found.st_size, found.st_mtim.tv_sec, found.st_mtim.tv_nsec};
+}
+
+LinuxUserDefaults::LinuxUserDefaults(const QString &path)
+    : file_(QFile::encodeName(path)),
+      settings_(path, QSettings::IniFormat)
+{
+}
 
 QString LinuxUserDefaults::defaultPath(const Environment &environment)
 {
@@ -32,7 +48,7 @@ QString LinuxUserDefaults::defaultPath(const Environment &environment)
 
 QVariant LinuxUserDefaults::value(const QString &key) const
 {
-    settings_.sync();
+    takeChangesOfOthers();
     const QVariant value = settings_.value(flatKey(key));
     switch (value.typeId()) {
     case QMetaType::QByteArray: return QString::fromUtf8(value.toByteArray());
@@ -40,6 +56,16 @@ QVariant LinuxUserDefaults::value(const QString &key) const
     case QMetaType::QStringList: return value.toStringList().join(", "_L1);
     default: return isWordForTruth(value) ? QVariant(value == u"true"_s) : value;
     }
+}
+
+void LinuxUserDefaults::takeChangesOfOthers() const
+{
+    // QSettings asks the file system by itself too, but slowly: a menu wants a value for each of a thousand rows.
+    const FileState state = FileState::of(file_);
+    if (state == state_)
+        return;
+    settings_.sync();
+    state_ = state;
 }
 
 void LinuxUserDefaults::setValue(const QString &key, const QVariant &value)
