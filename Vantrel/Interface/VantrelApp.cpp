@@ -67,12 +67,7 @@ VantrelApp::VantrelApp(Platform &platform, DesktopPlatform &desktop, QString bui
 {
     connect(&store_, &ProfileStore::changed, this, &VantrelApp::takeStoreChange);
     offerProfiles();
-    // Reading and drawing leave much free memory behind.
-    connect(&icons_, &ProfileIconCache::prepared, this, [] { ProcessMemory::giveBack(); });
-    if (desktop_.statusItem) {
-        // The panel asks for all icons at once.
-        connect(&icons_, &ProfileIconCache::prepared, this, [this] { desktop_.statusItem->updateMenu(); });
-    }
+    connect(&icons_, &ProfileIconCache::prepared, this, &VantrelApp::prepareMenu);
 }
 
 /// To the rest of the system.
@@ -249,6 +244,17 @@ void VantrelApp::prepareIcons()
     }
     icons_.prepare(icons, tray_.isInPanel() ? ProfileIconCache::Sizes{.png = StatusItem::menuIconPixels}
                                             : ProfileIconCache::Sizes{.image = popup_.iconPixels()});
+}
+
+void VantrelApp::prepareMenu()
+{
+    // A panel asks for all icons at once, and for the rows whenever it has been told of others.
+    if (desktop_.statusItem)
+        desktop_.statusItem->updateMenu();
+    // Starting, reading and drawing leave much free memory behind, and code that was used for the last time.
+    ProcessMemory::giveBack();
+    if (!tray_.isInPanel())
+        popup_.prepare();
 }
 
 GlobalShortcuts &VantrelApp::shortcuts()

@@ -50,6 +50,7 @@ private:
     [[nodiscard]] StatusItem::Content statusItemContent();
     void takeStoreChange();
     void prepareIcons();
+    void prepareMenu();
     [[nodiscard]] GlobalShortcuts &shortcuts();
     void connectShortcuts(GlobalShortcuts &made);
     void updateMenus();

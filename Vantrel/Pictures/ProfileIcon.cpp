@@ -130,7 +130,9 @@ QImage ProfileIcon::image(int pixels) const
     image.fill(Qt::transparent);
     QPainter painter(&image);
     draw(painter, QRectF(0, 0, pixels, pixels));
-    return image;
+    painter.end();
+    // An image keeps what has painted it for the next time, which takes more memory than a small one itself.
+    return image.copy();
 }
 
 } // namespace vantrel

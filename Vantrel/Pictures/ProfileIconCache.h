@@ -3,6 +3,7 @@
 #include "Vantrel/Pictures/ProfileIcon.h"
 
 #include <QHash>
+#include <QMap>
 #include <QObject>
 #include <QSet>
 #include <QThreadPool>
@@ -48,9 +49,9 @@ Q_SIGNALS:
 private:
     struct Entry {
         ProfileIcon icon;
-        /// By their size in pixels.
-        QHash<int, QImage> images;
-        QHash<int, QByteArray> files;
+        /// By their size in pixels, of which there are one or two.
+        QMap<int, QImage> images;
+        QMap<int, QByteArray> files;
     };
 
     [[nodiscard]] Entry &entry(const ProfileIcon &icon);

@@ -10,6 +10,9 @@
 
 #include <gtest/gtest.h>
 
+#include <functional>
+#include <vector>
+
 using namespace Qt::StringLiterals;
 
 namespace vantrel {
@@ -61,6 +64,75 @@ TEST_F(PopupMenuTest, IsBuiltAnewEachTimeItOpens)
     rows_ = {command(u"Two"_s, u"2"_s)};
     open();
     EXPECT_EQ(titles(), QStringList(u"Two"_s));
+}
+
+TEST_F(PopupMenuTest, RowsThatLookTheSameStayAndDoWhatTheirLatestOnesDo)
+{
+    const auto rowsWith = [this](const QString &mark, Qt::GlobalColor color) -> Menu {
+        return {{.kind = MenuItem::Kind::header, .title = u"Chrome"_s},
+                {.title = u"One"_s,
+                 .id = u"1"_s,
+                 .shortcut = Qt::CTRL | Qt::Key_1,
+                 .icon =
+                     [color](int pixels) {
+                         QImage image(pixels, pixels, QImage::Format_ARGB32);
+                         image.fill(color);
+                         return image;
+                     },
+                 .action = [this, mark] { chosen_.append(mark); }}};
+    };
+    const auto color = [this] { return row(u"1"_s)->icon().pixmap(16).toImage().pixelColor(8, 8); };
+    rows_ = rowsWith(u"former"_s, Qt::red);
+    menu_.prepare();
+    const QList<QAction *> prepared = menu_.actions();
+    ASSERT_EQ(prepared.size(), 2);
+    EXPECT_EQ(color(), QColor(Qt::red));
+    rows_ = rowsWith(u"latest"_s, Qt::green);
+    open();
+    EXPECT_EQ(menu_.actions(), prepared);
+    EXPECT_EQ(color(), QColor(Qt::green));
+    QTest::keyClick(&menu_, Qt::Key_Down);
+    QTest::keyClick(&menu_, Qt::Key_Return);
+    EXPECT_EQ(chosen_, QStringList(u"latest"_s));
+}
+
+TEST_F(PopupMenuTest, EveryDifferenceThatIsSeenIsTakenOver)
+{
+    const auto icon = [](int pixels) { return QImage(pixels, pixels, QImage::Format_ARGB32); };
+    const MenuItem first{.title = u"One"_s, .id = u"1"_s, .shortcut = Qt::CTRL | Qt::Key_1, .icon = icon};
+    const std::vector<std::function<void(MenuItem &)>> changes{
+        [](MenuItem &item) { item.title = u"Uno"_s; },
+        [](MenuItem &item) { item.id = u"2"_s; },
+        [](MenuItem &item) { item.shortcut = Qt::CTRL | Qt::Key_2; },
+        [](MenuItem &item) { item.icon = {}; },
+        [](MenuItem &item) { item = {.kind = MenuItem::Kind::text, .title = u"One"_s}; },
+    };
+    for (const auto &change : changes) {
+        rows_ = {first};
+        menu_.prepare();
+        change(rows_.first());
+        open();
+        ASSERT_EQ(menu_.actions().size(), 1);
+        const QAction *shown = menu_.actions().first();
+        const MenuItem &wanted = rows_.first();
+        EXPECT_EQ(shown->text().section(u'\t', 0, 0), wanted.title);
+        EXPECT_EQ(shown->objectName(), wanted.id);
+        EXPECT_EQ(shown->shortcut(), wanted.shortcut);
+        EXPECT_EQ(shown->icon().isNull(), !wanted.icon);
+        EXPECT_EQ(shown->isEnabled(), wanted.kind == MenuItem::Kind::command);
+        menu_.close();
+    }
+}
+
+TEST_F(PopupMenuTest, WhatIsPreparedWhileItIsOpenDoesNotDisturbIt)
+{
+    rows_ = {command(u"One"_s, u"1"_s), command(u"Two"_s, u"2"_s)};
+    open();
+    menu_.setActiveAction(row(u"2"_s));
+    rows_ = {command(u"Three"_s, u"3"_s)};
+    menu_.prepare();
+    EXPECT_EQ(titles(), QStringList({u"One"_s, u"Two"_s}));
+    EXPECT_EQ(menu_.activeAction(), row(u"2"_s));
 }
 
 TEST_F(PopupMenuTest, HeadersAndTextsCanNotBeChosen)
