@@ -2,6 +2,7 @@
 
 #include <QList>
 
+#include <algorithm>
 #include <cwchar>
 
 using namespace Qt::StringLiterals;
@@ -16,10 +17,19 @@ bool isDirectionControl(QChar character)
     return (code >= 0x202A && code <= 0x202E) || (code >= 0x2066 && code <= 0x2069);
 }
 
+/// Letters, digits and signs of ASCII, and the blank: most of what is printed, and the simplest.
+constexpr bool isPlain(char32_t character)
+{
+    return character >= U' ' && character <= U'~';
+}
+
 bool needsEscape(QChar character)
 {
-    return character.category() == QChar::Other_Control || character.category() == QChar::Separator_Line ||
-           character.category() == QChar::Separator_Paragraph || isDirectionControl(character);
+    if (isPlain(character.unicode()))
+        return false;
+    const QChar::Category category = character.category();
+    return category == QChar::Other_Control || category == QChar::Separator_Line ||
+           category == QChar::Separator_Paragraph || isDirectionControl(character);
 }
 
 QString escape(QChar character)
@@ -38,8 +48,9 @@ QString escape(QChar character)
 
 QString printable(const QString &text)
 {
+    if (std::ranges::none_of(text, needsEscape))
+        return text;
     QString result;
-    result.reserve(text.size());
     for (const QChar character : text) {
         if (needsEscape(character))
             result.append(escape(character));
@@ -53,7 +64,7 @@ qsizetype columns(const QString &text)
 {
     qsizetype count = 0;
     for (const char32_t character : text.toUcs4()) {
-        const int width = wcwidth(static_cast<wchar_t>(character));
+        const int width = isPlain(character) ? 1 : wcwidth(static_cast<wchar_t>(character));
         // Negative when the locale knows no such character.
         count += width < 0 ? 1 : width;
     }

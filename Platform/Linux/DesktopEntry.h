@@ -25,6 +25,23 @@ struct DesktopEntry {
     friend bool operator==(const DesktopEntry &, const DesktopEntry &) = default;
 };
 
+struct DesktopEntryFile;
+
+/// What a desktop entry file says, whether or not its program is there.
+struct DesktopEntryContent {
+    bool isHidden = false;
+    bool isApplication = false;
+    /// The program without which the entry doesn't count; empty for none.
+    QString tryExec;
+    DesktopEntry entry;
+
+    /// None when the file can't be read, or isn't one. Any thread.
+    [[nodiscard]] static std::optional<DesktopEntryContent> read(const QString &path);
+
+    /// What that is worth now.
+    [[nodiscard]] DesktopEntryFile file() const;
+};
+
 /// What reading a desktop entry file gives.
 struct DesktopEntryFile {
     /// The entry says that it is to be taken for deleted, also where a folder of less weight has one of the same name.

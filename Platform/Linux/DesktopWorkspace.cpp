@@ -13,10 +13,10 @@ struct Texts {
     Q_DECLARE_TR_FUNCTIONS(DesktopWorkspace)
 };
 
-std::expected<DesktopEntry, PlatformError> entryAt(const QUrl &application)
+std::expected<DesktopEntry, PlatformError> entryAt(const QUrl &application, DesktopEntries &entries)
 {
     const QString path = application.toLocalFile();
-    if (auto entry = DesktopEntryFile::read(path).entry)
+    if (auto entry = entries.read(path).entry)
         return *std::move(entry);
     //: Error when a browser was removed or damaged since it was found. The placeholder is its desktop entry's path.
     return std::unexpected(PlatformError{
@@ -49,7 +49,7 @@ QStringList DesktopWorkspace::searchedNames(const QString &bundleID) const
 std::expected<QStringList, PlatformError> DesktopWorkspace::commandLine(const QUrl &application,
                                                                         const QStringList &arguments) const
 {
-    const auto entry = entryAt(application);
+    const auto entry = entryAt(application, finder_.entries());
     if (!entry)
         return std::unexpected(entry.error());
     return expandedCommandLine(*entry, arguments, finder_.environment().home);
@@ -58,7 +58,7 @@ std::expected<QStringList, PlatformError> DesktopWorkspace::commandLine(const QU
 QCoro::Task<std::expected<void, PlatformError>> DesktopWorkspace::openApplication(QUrl application,
                                                                                   QStringList arguments)
 {
-    const auto entry = entryAt(application);
+    const auto entry = entryAt(application, finder_.entries());
     if (!entry)
         co_return std::unexpected(entry.error());
     const QString &home = finder_.environment().home;

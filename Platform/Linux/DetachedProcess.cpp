@@ -56,7 +56,8 @@ public:
     Attributes()
     {
         posix_spawnattr_init(&value_);
-        // All of them: sigfillset leaves out two that the C library uses itself, and the new process would ignore these.
+        // All of them: sigfillset leaves out two that the C library uses itself, and the new process would ignore
+        // these.
         sigset_t signals;
         std::memset(&signals, 0xff, sizeof signals);
         posix_spawnattr_setsigdefault(&value_, &signals);

@@ -21,7 +21,7 @@ bool belongsTo(const BrowserPackage &package, const DesktopEntry &entry)
     Q_UNREACHABLE();
 }
 
-std::optional<DesktopEntry> entryOf(const BrowserPackage &package, const QStringList &folders)
+std::optional<DesktopEntry> entryOf(const BrowserPackage &package, const QStringList &folders, DesktopEntries &entries)
 {
     for (const std::string_view name : package.entries) {
         if (name.empty())
@@ -31,7 +31,7 @@ std::optional<DesktopEntry> entryOf(const BrowserPackage &package, const QString
             const QString path = joinedPath(folder, text(name));
             if (!QFileInfo::exists(path))
                 continue;
-            DesktopEntryFile file = DesktopEntryFile::read(path);
+            DesktopEntryFile file = entries.read(path);
             if (file.isHidden)
                 break;
             if (file.entry && belongsTo(package, *file.entry))
@@ -66,7 +66,7 @@ std::optional<Installation> InstallationFinder::find(const QString &bundleID) co
     const QStringList folders = applicationFolders();
     QList<Installation> installations;
     for (const BrowserPackage *package : BrowserPackage::ofBrowser(bundleID)) {
-        auto entry = entryOf(*package, folders);
+        auto entry = entryOf(*package, folders, *entries_);
         if (!entry)
             continue;
         const QStringList candidates = candidateDataFolders(*package, *entry, environment_);

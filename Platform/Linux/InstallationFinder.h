@@ -1,15 +1,18 @@
 #pragma once
 
+#include "Platform/Linux/DesktopEntries.h"
 #include "Platform/Linux/Environment.h"
 #include "Platform/Linux/Installation.h"
 
 #include <QStringList>
 
+#include <memory>
 #include <optional>
 
 namespace vantrel {
 
-/// Finds installed browsers by their desktop entries. It keeps nothing between calls. Any thread.
+/// Finds installed browsers by their desktop entries, always as they are now. Copies share what they have read. Any
+/// thread.
 class InstallationFinder {
 public:
     explicit InstallationFinder(Environment environment) : environment_(std::move(environment)) {}
@@ -21,6 +24,7 @@ public:
     [[nodiscard]] static QStringList entryNames(const QString &bundleID);
 
     [[nodiscard]] const Environment &environment() const { return environment_; }
+    [[nodiscard]] DesktopEntries &entries() const { return *entries_; }
 
 private:
     /// Folders with desktop entries, the weightiest first.
@@ -29,6 +33,7 @@ private:
     [[nodiscard]] bool yields(const Installation &installation) const;
 
     Environment environment_;
+    std::shared_ptr<DesktopEntries> entries_ = std::make_shared<DesktopEntries>();
 };
 
 } // namespace vantrel

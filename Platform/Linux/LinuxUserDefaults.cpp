@@ -4,8 +4,6 @@
 
 #include <QFile>
 
-#include <sys/stat.h>
-
 using namespace Qt::StringLiterals;
 
 namespace vantrel {
@@ -26,14 +24,6 @@ bool isWordForTruth(const QVariant &value)
 }
 
 } // namespace
-
-LinuxUserDefaults::FileState LinuxUserDefaults::FileState::of(const QByteArray &file)
-{
-    struct stat found{};
-    if (stat(file.constData(), &found) != 0)
-        return {};
-    return {found.st_ino, found.st_size, found.st_mtim.tv_sec, found.st_mtim.tv_nsec};
-}
 
 LinuxUserDefaults::LinuxUserDefaults(const QString &path)
     : file_(QFile::encodeName(path)),

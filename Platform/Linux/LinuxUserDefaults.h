@@ -1,11 +1,10 @@
 #pragma once
 
 #include "Platform/Linux/Environment.h"
+#include "Platform/Linux/FileState.h"
 #include "Platform/UserDefaults.h"
 
 #include <QSettings>
-
-#include <sys/types.h>
 
 #include <optional>
 
@@ -24,17 +23,6 @@ public:
     void remove(const QString &key) override;
 
 private:
-    /// What tells one state of the file from another. All zeros when there is no file.
-    struct FileState {
-        ino_t number = 0;
-        off_t size = 0;
-        time_t seconds = 0;
-        long nanoseconds = 0;
-
-        [[nodiscard]] static FileState of(const QByteArray &file);
-        friend bool operator==(const FileState &, const FileState &) = default;
-    };
-
     void takeChangesOfOthers() const;
 
     QByteArray file_;

@@ -47,13 +47,14 @@ void printJson(const QList<Profile> &profiles, const ProfileCatalogue &catalogue
 void printTable(const QList<Profile> &profiles, const ProfileCatalogue &catalogue, Output &output)
 {
     QStringList titles;
-    qsizetype width = 0;
+    QList<qsizetype> widths;
     for (const Profile &profile : profiles) {
         titles.append(printable(catalogue.title(profile)));
-        width = std::max(width, columns(titles.last()));
+        widths.append(columns(titles.last()));
     }
+    const qsizetype width = widths.isEmpty() ? 0 : *std::ranges::max_element(widths);
     for (qsizetype row = 0; row < profiles.size(); ++row) {
-        const QString padding(width - columns(titles[row]), u' ');
+        const QString padding(width - widths[row], u' ');
         //: After a profile in a list: it isn't shown in the menu.
         const QString mark = catalogue.isHidden(profiles[row]) ? u"  "_s + Texts::tr("(hidden)") : QString();
         output.line(titles[row] + padding + u"  "_s + printable(profiles[row].id()) + mark);
