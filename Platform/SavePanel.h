@@ -7,7 +7,8 @@
 
 namespace vantrel {
 
-/// Asks the user where something is to be saved. Main thread only.
+/// Asks the user where something is to be saved. A question that is still open is cancelled when the next is asked, and
+/// when the object ends. Main thread only.
 class SavePanel {
 public:
     struct Panel {

@@ -27,6 +27,14 @@ public:
             changed_();
     }
 
+    /// The key types nothing from now on, as one for an accent.
+    void clear(std::uint32_t keyCode)
+    {
+        characters_.remove(keyCode);
+        if (changed_)
+            changed_();
+    }
+
 private:
     QHash<std::uint32_t, QString> characters_{
         {0, QStringLiteral("a")}, {1, QStringLiteral("s")}, {18, QStringLiteral("1")}, {35, QStringLiteral("p")}};

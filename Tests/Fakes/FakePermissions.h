@@ -27,9 +27,12 @@ private:
     int questions_ = 0;
 };
 
-/// The user's permission as a test has it.
+/// The user's permission to control Safari, which runs, as a test has it. Nothing else does.
 class FakeAutomationPermission final : public AutomationPermission {
 public:
+    /// The system's number for what doesn't run.
+    static constexpr int notRunning = -600;
+
     void setAnswer(std::optional<int> answer) { answer_ = answer; }
     /// For which applications it was asked.
     [[nodiscard]] const QStringList &requests() const { return requests_; }
@@ -37,7 +40,7 @@ public:
     [[nodiscard]] QCoro::Task<std::optional<int>> request(QString bundleID) override
     {
         requests_.append(bundleID);
-        co_return answer_;
+        co_return bundleID == QStringLiteral("com.apple.Safari") ? answer_ : notRunning;
     }
 
 private:

@@ -91,14 +91,17 @@ private:
     QStringList calls_;
 };
 
-/// A bridge to one Safari.
+/// A bridge to one Safari, the only application there is.
 class FakeSafariBridge final : public SafariBridge {
 public:
+    [[nodiscard]] static QString bundleID() { return QStringLiteral("com.apple.Safari"); }
+    [[nodiscard]] static QUrl url() { return QUrl::fromLocalFile(QStringLiteral("/Applications/Safari.app")); }
+
     [[nodiscard]] FakeSafariApplication &application() { return *application_; }
     [[nodiscard]] const std::shared_ptr<FakeSafariApplication> &shared() const { return application_; }
 
     void setConnects(bool connects) { connects_ = connects; }
-    /// What `startHidden` does and answers.
+    /// What `startHidden` does and answers for it.
     void setStart(std::function<std::expected<void, PlatformError>()> start) { start_ = std::move(start); }
 
     /// The identifiers and applications that were asked for.
@@ -107,18 +110,21 @@ public:
     /// With what the latest connection was made.
     [[nodiscard]] const Settings &settings() const { return settings_; }
 
-    [[nodiscard]] std::shared_ptr<SafariApplication> connect(const QString &bundleID, Settings settings) override
+    [[nodiscard]] std::shared_ptr<SafariApplication> connect(const QString &identifier, Settings settings) override
     {
-        connections_.append(bundleID);
+        connections_.append(identifier);
         settings_ = std::move(settings);
-        return connects_ ? application_ : nullptr;
+        return connects_ && identifier == bundleID() ? application_ : nullptr;
     }
 
     [[nodiscard]] QCoro::Task<std::expected<void, PlatformError>> startHidden(QUrl application) override
     {
         starts_.append(application);
+        if (application != url())
+            co_return std::unexpected(PlatformError{QStringLiteral("No application at ") + application.toString()});
         if (start_)
             co_return start_();
+        application_->runs = true;
         co_return {};
     }
 

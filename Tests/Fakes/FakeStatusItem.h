@@ -2,11 +2,13 @@
 
 #include "Platform/StatusItem.h"
 
+#include <QObject>
+
 #include <utility>
 
 namespace vantrel::test {
 
-/// A symbol in a panel that a test plays. Says nothing of being shown until the test does.
+/// A symbol in a panel that a test plays. There is none at first.
 class FakeStatusItem final : public StatusItem {
 public:
     void start(Content content, std::function<void(bool isShown)> shownChanged) override
@@ -14,12 +16,18 @@ public:
         ++starts_;
         content_ = std::move(content);
         shownChanged_ = std::move(shownChanged);
+        tell();
     }
 
     void updateMenu() override { ++menuUpdates_; }
 
-    /// A panel comes or goes. Only after `start`.
-    void setShown(bool isShown) { shownChanged_(isShown); }
+    /// A panel comes or goes.
+    void setShown(bool isShown)
+    {
+        isShown_ = isShown;
+        if (shownChanged_)
+            tell();
+    }
 
     /// The menu as it opens now. Only after `start`.
     [[nodiscard]] Menu openedMenu() const { return content_.menu(); }
@@ -42,10 +50,19 @@ public:
     [[nodiscard]] int menuUpdates() const { return menuUpdates_; }
 
 private:
+    void tell()
+    {
+        QMetaObject::invokeMethod(
+            &context_, [this, isShown = isShown_] { shownChanged_(isShown); }, Qt::QueuedConnection);
+    }
+
     Content content_;
     std::function<void(bool)> shownChanged_;
     int starts_ = 0;
     int menuUpdates_ = 0;
+    bool isShown_ = false;
+    /// Owns what is still to be told.
+    QObject context_;
 };
 
 } // namespace vantrel::test

@@ -3,6 +3,7 @@ from __future__ import annotations
 
 import json
 import os
+import plistlib
 import re
 import subprocess
 import tempfile
@@ -77,6 +78,22 @@ class BuildFiles(unittest.TestCase):
                                   for name in ("vantrel", "vantrel-app", "vantrel-launcher", "LauncherStub")})
         self.assertTrue("\nbuild Vantrel.app/Contents/Resources/AppIcon.icns " in self.ninja)
         self.assertTrue((self.folder / "Vantrel.app" / "Contents" / "Info.plist").exists())
+
+    def test_the_systems_texts_are_in_the_bundle(self) -> None:
+        found = (self.folder / "Vantrel.app" / "Contents" / "Resources").glob("*.lproj/*.strings")
+        self.assertEqual(sorted(f"{path.parent.name}/{path.name}" for path in found),
+                         [f"{language}.lproj/{name}.strings" for language in ("ar", "de")
+                          for name in ("AppShortcuts", "Localizable")])
+
+    def test_tests_of_what_only_applications_can_do_are_one(self) -> None:
+        program, = (name for name in self.programs() if name.endswith("/PlatformMacOSBundleTests"))
+        bundle = self.folder / program.removesuffix("/Contents/MacOS/PlatformMacOSBundleTests")
+        self.assertEqual(bundle.suffix, ".app")
+        described = plistlib.loads((bundle / "Contents" / "Info.plist").read_bytes())
+        self.assertEqual(described["CFBundleExecutable"], "PlatformMacOSBundleTests")
+        self.assertEqual(described["CFBundleIdentifier"], "app.kestrune.Vantrel.BundleTests")
+        rule = next(rule for rule in self.ninja.split("\n\n") if re.search(rf"(?m)^build {program}\b[^:]*:", rule))
+        self.assertIn(f"codesign --force --sign - {bundle}", rule)
 
     def test_no_program_has_the_name_of_a_folder(self) -> None:
         # As the usual file system compares them.

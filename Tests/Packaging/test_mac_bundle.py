@@ -44,6 +44,7 @@ class PropertyList(unittest.TestCase):
             "CFBundleIconFile": "AppIcon",
             "CFBundleIdentifier": "app.kestrune.Vantrel",
             "CFBundleInfoDictionaryVersion": "6.0",
+            "CFBundleLocalizations": ["en", "ar", "de"],
             "CFBundleName": "Vantrel",
             "CFBundlePackageType": "APPL",
             "CFBundleShortVersionString": version,
@@ -84,6 +85,23 @@ class PropertyList(unittest.TestCase):
                 self.assertNotEqual(done.returncode, 0, (feed, key))
                 self.assertIn("An updater needs", done.stderr)
             self.assertFalse(file.exists())
+
+
+class Languages(unittest.TestCase):
+    def test_are_those_of_the_program(self) -> None:
+        translated = [path.stem.removeprefix("vantrel_") for path in (ROOT / "Resources" / "Translations").glob("*.ts")]
+        self.assertGreater(len(translated), 1)
+        described = plistlib.loads((contents() / "Info.plist").read_bytes())
+        self.assertEqual(described["CFBundleLocalizations"], ["en", *sorted(translated)])
+        self.assertEqual(sorted(path.name for path in (contents() / "Resources").glob("*.lproj")),
+                         [f"{language}.lproj" for language in sorted(translated)])
+
+    def test_texts_are_where_the_system_looks_for_them(self) -> None:
+        sources = sorted((PACKAGING / "Languages").rglob("*.strings"))
+        self.assertGreater(len(sources), 3)
+        for source in sources:
+            place = contents() / "Resources" / source.relative_to(PACKAGING / "Languages")
+            self.assertEqual(place.read_bytes(), source.read_bytes(), place)
 
 
 class Entitlements(unittest.TestCase):

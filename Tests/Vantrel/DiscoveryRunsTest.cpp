@@ -1,5 +1,6 @@
 #include "Vantrel/DiscoveryRuns.h"
 
+#include "Tests/Fakes/FakeFolderAccess.h"
 #include "Tests/Fakes/FakeLog.h"
 #include "Tests/Fakes/FakeRunningApplications.h"
 #include "Tests/Vantrel/EventLoop.h"
@@ -19,23 +20,6 @@ using namespace Qt::StringLiterals;
 
 namespace vantrel {
 namespace {
-
-/// A panel that answers what a test says, and keeps what it was asked.
-class FakeFolderAccess final : public FolderAccess {
-public:
-    [[nodiscard]] QCoro::Task<bool> ask(Panel panel) override
-    {
-        asked_.append(panel.folder + u" | "_s + panel.message + u" | "_s + panel.confirmButton);
-        co_return answer_;
-    }
-
-    void setAnswer(bool answer) { answer_ = answer; }
-    [[nodiscard]] const QStringList &asked() const { return asked_; }
-
-private:
-    bool answer_ = false;
-    QStringList asked_;
-};
 
 /// A search of Safari that goes on until a test ends it.
 class HeldSafariSearch final : public SafariSearch {
@@ -122,7 +106,7 @@ protected:
     test::EventProgram program_;
     test::PlantedBrowsers planted_;
     test::FakeRunningApplications running_;
-    FakeFolderAccess access_;
+    test::FakeFolderAccess access_;
     HeldSafariSearch safari_;
     test::FakeLog log_;
     QString savedPath_ = planted_.folder.path(u"saved/profiles.json"_s);

@@ -1,6 +1,7 @@
 #include "KeyboardShortcuts/X11/XkbKeyboardLayout.h"
 
 #include "KeyboardShortcuts/X11/Xkb.h"
+#include "Tests/Contract/KeyboardLayoutContract.h"
 #include "Tests/KeyboardShortcuts/X11/XServer.h"
 
 #include <QGuiApplication>
@@ -143,5 +144,34 @@ TEST(XkbKeyboardLayout, IsMissingWithoutAnXServer)
     EXPECT_EQ(XkbKeyboardLayout::create(), nullptr);
 }
 
+/// A user of an X server, which has an American keyboard at first.
+class XkbSystem {
+public:
+    KeyboardLayout &layout() { return *layout_; }
+    [[nodiscard]] test::TestedLayout chosen() const { return chosen_; }
+
+    void choose(test::TestedLayout layout, const bool &isTold)
+    {
+        chosen_ = layout;
+        server_.run(u"setxkbmap"_s, {layout == test::TestedLayout::german ? u"de"_s : u"us"_s});
+        EXPECT_TRUE(QTest::qWaitFor([&] { return isTold; }, 30'000));
+    }
+
+private:
+    test::XServer server_;
+    int argumentCount_ = 1;
+    char name_[8] = "vantrel";
+    char *arguments_[2] = {name_, nullptr};
+    QGuiApplication program_{argumentCount_, arguments_};
+    std::unique_ptr<XkbKeyboardLayout> layout_ = XkbKeyboardLayout::create();
+    test::TestedLayout chosen_ = test::TestedLayout::unitedStates;
+};
+
 } // namespace
+
+namespace test {
+
+INSTANTIATE_TYPED_TEST_SUITE_P(X11, KeyboardLayoutContract, XkbSystem);
+
+} // namespace test
 } // namespace vantrel

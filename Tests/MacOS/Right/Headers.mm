@@ -4,6 +4,7 @@
 #include <ApplicationServices/ApplicationServices.h>
 #include <Carbon/Carbon.h>
 #include <CoreGraphics/CGEvent.h>
+#include <OSLog/OSLog.h>
 #include <ScriptingBridge/ScriptingBridge.h>
 #include <ServiceManagement/ServiceManagement.h>
 #include <Sparkle/Sparkle.h>

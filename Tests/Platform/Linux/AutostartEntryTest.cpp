@@ -1,6 +1,8 @@
 #include "Platform/Linux/AutostartEntry.h"
 
 #include "Platform/Linux/ExecLine.h"
+#include "Tests/Contract/LoginItemContract.h"
+#include "Tests/Contract/LoginItemRefusalContract.h"
 #include "Tests/VantrelKit/TemporaryFolder.h"
 
 #include <QFileInfo>
@@ -115,5 +117,49 @@ TEST_F(AutostartEntryTest, ARefusalNamesTheFile)
     EXPECT_FALSE(entry().isEnabled());
 }
 
+/// A desktop that starts what the user's folder says.
+class AutostartSystem {
+public:
+    LoginItem &item() { return item_; }
+
+    [[nodiscard]] bool startsProgram() const
+    {
+        const QByteArray text = QFileInfo::exists(path_) ? folder_.read(file_) : QByteArray();
+        return text.startsWith("[Desktop Entry]\n") && text.contains("\nExec=/usr/bin/vantrel\n") &&
+               !text.contains("\nHidden=true\n") && !text.contains("\nX-GNOME-Autostart-enabled=false\n");
+    }
+
+    void change(bool isOn)
+    {
+        folder_.write(file_, "[Desktop Entry]\nType=Application\nName=Vantrel\nExec=/usr/bin/vantrel\n"
+                             "X-GNOME-Autostart-enabled=" +
+                                 QByteArray(isOn ? "true" : "false") + '\n');
+    }
+
+private:
+    const QString file_ = u"autostart/vantrel.desktop"_s;
+    test::TemporaryFolder folder_;
+    QString path_ = folder_.path(file_);
+    AutostartEntry item_{{.own = path_, .everybodys = {}}, u"/usr/bin/vantrel"_s};
+};
+
+class RefusingAutostartSystem {
+public:
+    LoginItem &item() { return item_; }
+
+private:
+    test::TemporaryFolder folder_;
+    /// A file in the folder's place stops administrators too.
+    QString own_ = folder_.write(u"config"_s) + u"/vantrel.desktop"_s;
+    AutostartEntry item_{{.own = own_, .everybodys = {}}, u"/usr/bin/vantrel"_s};
+};
+
 } // namespace
+
+namespace test {
+
+INSTANTIATE_TYPED_TEST_SUITE_P(Linux, LoginItemContract, AutostartSystem);
+INSTANTIATE_TYPED_TEST_SUITE_P(Linux, LoginItemRefusalContract, RefusingAutostartSystem);
+
+} // namespace test
 } // namespace vantrel

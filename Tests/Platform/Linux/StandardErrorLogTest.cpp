@@ -1,5 +1,6 @@
 #include "Platform/Linux/StandardErrorLog.h"
 
+#include "Tests/Contract/LogSinkContract.h"
 #include "Tests/VantrelKit/TemporaryFolder.h"
 
 #include <QFile>
@@ -95,5 +96,34 @@ TEST(StandardErrorLog, PrivateValuesAreShownOnRequestOnly)
                              "app.kestrune.Vantrel [Open] link: <private>\n");
 }
 
+/// A terminal, or a file that somebody has the errors sent to.
+class StandardErrorSystem {
+public:
+    LogSink &sink() { return log_; }
+
+    /// The program's lines, without its name. They are there once they are written.
+    [[nodiscard]] QStringList lines(qsizetype /*count*/) const
+    {
+        const QString name = u"app.kestrune.Vantrel "_s;
+        QStringList lines = QString::fromUtf8(errors_.text()).split(u'\n');
+        EXPECT_EQ(lines.takeLast(), QString()) << "The last line has no end.";
+        for (QString &line : lines) {
+            EXPECT_TRUE(line.startsWith(name)) << line.toStdString();
+            line.remove(0, name.size());
+        }
+        return lines;
+    }
+
+private:
+    CapturedErrors errors_;
+    StandardErrorLog log_{{}};
+};
+
 } // namespace
+
+namespace test {
+
+INSTANTIATE_TYPED_TEST_SUITE_P(Linux, LogSinkContract, StandardErrorSystem);
+
+} // namespace test
 } // namespace vantrel

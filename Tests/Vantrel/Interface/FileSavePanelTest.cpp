@@ -1,5 +1,6 @@
 #include "Vantrel/Interface/FileSavePanel.h"
 
+#include "Tests/Contract/SavePanelContract.h"
 #include "Tests/Vantrel/EventLoop.h"
 #include "Tests/VantrelKit/TemporaryFolder.h"
 
@@ -136,5 +137,21 @@ TEST_F(FileSavePanelTest, APanelThatGoesWhileItIsOpenAnswersNothing)
     EXPECT_EQ(answer->path, std::nullopt);
 }
 
+class FileSavePanelSystem {
+public:
+    SavePanel &panel() { return *panel_; }
+    static void cancel() { dialog()->reject(); }
+    void destroyPanel() { panel_.reset(); }
+
+private:
+    std::optional<FileSavePanel> panel_{std::in_place};
+};
+
 } // namespace
+
+namespace test {
+
+INSTANTIATE_TYPED_TEST_SUITE_P(Toolkit, SavePanelContract, FileSavePanelSystem);
+
+} // namespace test
 } // namespace vantrel

@@ -1,5 +1,6 @@
 #include "Vantrel/Pictures/Symbols.h"
 
+#include "Tests/Contract/SymbolImagesContract.h"
 #include "Tests/Vantrel/Pictures/Pixels.h"
 
 #include <gtest/gtest.h>
@@ -138,5 +139,28 @@ TEST(Symbols, UnknownOnesAreNoImage)
     EXPECT_TRUE(symbolImage(u"eyeglasses"_s, -1, Qt::black).isNull());
 }
 
+/// The program's drawings, which take the place of the system's where that has none.
+class Drawings final : public SymbolImages {
+public:
+    [[nodiscard]] QImage image(const QString &name, int pixels, const QColor &color) const override
+    {
+        return symbolImage(name, pixels, color);
+    }
+};
+
+class DrawingsSystem {
+public:
+    const SymbolImages &images() { return drawings_; }
+
+private:
+    Drawings drawings_;
+};
+
 } // namespace
+
+namespace test {
+
+INSTANTIATE_TYPED_TEST_SUITE_P(Own, SymbolImagesContract, DrawingsSystem);
+
+} // namespace test
 } // namespace vantrel

@@ -6,6 +6,7 @@
 
 @class NSApplication;
 @class NSRunningApplication;
+@class NSWindow;
 
 // https://developer.apple.com/documentation/appkit/nsapplicationdelegate
 @protocol NSApplicationDelegate <NSObject>
@@ -33,6 +34,7 @@ typedef NS_ENUM(NSInteger, NSApplicationActivationPolicy) {
 - (void)run;
 - (void)terminate:(nullable id)sender;
 @property(readonly, getter=isActive) BOOL active;
+@property(readonly, copy) NSArray<__kindof NSWindow *> *windows;
 @end
 SHIM_EXTERN __kindof NSApplication *_Null_unspecified NSApp;
 SHIM_EXTERN NSNotificationName const NSApplicationDidBecomeActiveNotification;

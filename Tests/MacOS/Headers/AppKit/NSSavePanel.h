@@ -11,6 +11,7 @@
 typedef NSInteger NSModalResponse;
 enum : NSModalResponse { NSModalResponseCancel = 0, NSModalResponseOK = 1 };
 @interface NSWindow : NSResponder
+@property(readonly, getter=isVisible) BOOL visible;
 - (void)close;
 @end
 @interface NSPanel : NSWindow

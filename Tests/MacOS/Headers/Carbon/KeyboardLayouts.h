@@ -10,6 +10,14 @@
 typedef struct __TISInputSource *TISInputSourceRef;
 SHIM_EXTERN TISInputSourceRef _Nullable TISCopyCurrentKeyboardLayoutInputSource(void);
 SHIM_EXTERN TISInputSourceRef _Nullable TISCopyCurrentASCIICapableKeyboardLayoutInputSource(void);
+SHIM_EXTERN TISInputSourceRef _Nullable TISCopyCurrentKeyboardInputSource(void);
+SHIM_EXTERN CFArrayRef _Null_unspecified TISCreateInputSourceList(CFDictionaryRef _Nullable properties,
+                                                                  Boolean includeAllInstalled);
+SHIM_EXTERN OSStatus TISSelectInputSource(TISInputSourceRef source);
+SHIM_EXTERN OSStatus TISEnableInputSource(TISInputSourceRef source);
+SHIM_EXTERN OSStatus TISDisableInputSource(TISInputSourceRef source);
+SHIM_EXTERN const CFStringRef kTISPropertyInputSourceID;
+SHIM_EXTERN const CFStringRef kTISPropertyInputSourceIsEnabled;
 SHIM_EXTERN void *_Nullable TISGetInputSourceProperty(TISInputSourceRef source, CFStringRef key);
 SHIM_EXTERN const CFStringRef kTISPropertyUnicodeKeyLayoutData;
 SHIM_EXTERN const CFStringRef kTISNotifySelectedKeyboardInputSourceChanged;

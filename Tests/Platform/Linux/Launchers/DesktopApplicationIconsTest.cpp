@@ -1,5 +1,6 @@
 #include "Platform/Linux/Launchers/DesktopApplicationIcons.h"
 
+#include "Tests/Contract/ApplicationIconsContract.h"
 #include "Tests/Platform/Linux/PlantedHome.h"
 
 #include <QBuffer>
@@ -104,5 +105,38 @@ TEST_F(DesktopApplicationIconsTest, WithoutAnIconThereIsNone)
     EXPECT_TRUE(icons.icon(QUrl(), 48).isNull());
 }
 
+/// Two browsers with icons in a home of their own.
+class DesktopApplicationIconsSystem {
+public:
+    DesktopApplicationIconsSystem()
+    {
+        for (const int size : {16, 48, 256}) {
+            const QString folder = u"share/icons/hicolor/%1x%1/apps/"_s.arg(size);
+            home_.write(folder + u"one.png"_s, png(size, Qt::red));
+            home_.write(folder + u"other.png"_s, png(size, Qt::blue));
+        }
+    }
+
+    const ApplicationIcons &icons() { return icons_; }
+    QUrl application() { return entry(u"one"_s); }
+    QUrl otherApplication() { return entry(u"other"_s); }
+    QUrl gone() { return QUrl::fromLocalFile(home_.path(u"gone.desktop"_s)); }
+
+private:
+    QUrl entry(const QString &name)
+    {
+        return QUrl::fromLocalFile(home_.installEntry(name + u".desktop"_s, "Icon=" + name.toUtf8() + '\n'));
+    }
+
+    test::PlantedHome home_;
+    DesktopApplicationIcons icons_{home_.environment()};
+};
+
 } // namespace
+
+namespace test {
+
+INSTANTIATE_TYPED_TEST_SUITE_P(Linux, ApplicationIconsContract, DesktopApplicationIconsSystem);
+
+} // namespace test
 } // namespace vantrel

@@ -1,5 +1,6 @@
 #include "Tests/Fakes/FakeStatusItem.h"
 
+#include "Tests/Contract/StatusItemContract.h"
 #include "Tests/Platform/Linux/StatusItem/MenuSamples.h"
 
 #include <gtest/gtest.h>
@@ -30,20 +31,43 @@ TEST(FakeStatusItem, ChoosesTheRowOfAnIDInTheMenuAsItIsNow)
     EXPECT_EQ(item.openedMenu().size(), 2);
 }
 
-TEST(FakeStatusItem, SaysThatItIsShownWhenTheTestDoesAndCountsCalls)
+TEST(FakeStatusItem, CountsCalls)
 {
     FakeStatusItem item;
-    QList<bool> shown;
-    item.start({.title = u"Title"_s, .iconName = {}, .icon = {}, .menu = {}}, [&](bool is) { shown += is; });
-    EXPECT_EQ(shown, QList<bool>());
-    item.setShown(false);
-    item.setShown(true);
-    EXPECT_EQ(shown, (QList<bool>{false, true}));
+    item.start({.title = u"Title"_s, .iconName = {}, .icon = {}, .menu = {}}, [](bool) {});
     item.updateMenu();
     EXPECT_EQ(item.menuUpdates(), 1);
     EXPECT_EQ(item.starts(), 1);
     EXPECT_EQ(item.content().title, u"Title"_s);
 }
 
+class FakeStatusItemSystem {
+public:
+    StatusItem &item() { return item_; }
+    void addPanel() { item_.setShown(true); }
+    void removePanel() { item_.setShown(false); }
+
+    [[nodiscard]] QStringList openMenu() const
+    {
+        QStringList titles;
+        for (const MenuItem &row : item_.openedMenu())
+            titles.append(row.title);
+        return titles;
+    }
+
+    /// Rows have their titles as ids.
+    void choose(const QString &title) const { EXPECT_TRUE(item_.choose(title)); }
+
+private:
+    int argumentCount_ = 1;
+    char name_[8] = "vantrel";
+    char *arguments_[2] = {name_, nullptr};
+    QCoreApplication program_{argumentCount_, arguments_};
+    FakeStatusItem item_;
+};
+
 } // namespace
+
+INSTANTIATE_TYPED_TEST_SUITE_P(Fake, StatusItemContract, FakeStatusItemSystem);
+
 } // namespace vantrel::test

@@ -1,6 +1,7 @@
 #include "Platform/Linux/StatusItem/StatusNotifierItem.h"
 
 #include "Platform/Linux/StatusItem/IconPixmap.h"
+#include "Tests/Contract/StatusItemContract.h"
 #include "Tests/Platform/Linux/StatusItem/StatusItemFixture.h"
 #include "Tests/VantrelKit/TemporaryFolder.h"
 
@@ -104,5 +105,46 @@ TEST_F(StatusNotifierItemTest, NothingIsOnTheBusAnyMoreOnceItIsGone)
     EXPECT_EQ(panel.callMenu(u"AboutToShow"_s, {0}).errorName(), QDBusError::errorString(QDBusError::UnknownObject));
 }
 
+/// A desktop whose panel comes and goes.
+class StatusNotifierSystem {
+public:
+    StatusItem &item() { return item_; }
+    void addPanel() { watcher_.emplace(bus_, true); }
+    void removePanel() { watcher_.reset(); }
+
+    QStringList openMenu()
+    {
+        std::ignore = panel_.aboutToShow();
+        QStringList titles;
+        for (const DBusMenuLayout &row : panel_.layout().children)
+            titles.append(row.properties.value(u"label"_s).toString().replace(u"__"_s, u"_"_s));
+        return titles;
+    }
+
+    void choose(const QString &title)
+    {
+        std::ignore = panel_.aboutToShow();
+        EXPECT_EQ(panel_.click(panel_.idOf(title)), QString());
+    }
+
+private:
+    int argumentCount_ = 1;
+    char name_[8] = "vantrel";
+    char *arguments_[2] = {name_, nullptr};
+    QCoreApplication program_{argumentCount_, arguments_};
+    test::PrivateBus bus_;
+    test::OwnConnection connection_{bus_.address()};
+    ActivationSource source_;
+    StatusNotifierItem item_{*connection_, source_, Environment()};
+    std::optional<test::WatcherStandIn> watcher_;
+    test::PanelStandIn panel_{bus_, connection_->baseService()};
+};
+
 } // namespace
+
+namespace test {
+
+INSTANTIATE_TYPED_TEST_SUITE_P(Linux, StatusItemContract, StatusNotifierSystem);
+
+} // namespace test
 } // namespace vantrel
