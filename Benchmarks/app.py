@@ -14,7 +14,8 @@ Memory is the proportional share (PSS), and what no other process shares; both a
 opened once. Who else runs Qt or GTK lowers the first.
 
 The menu's time is that from the click to its window, with a thousand rows, half of them with a picture. What a panel
-waits for is the answer to its question for all rows: the first time and later. `menu_benchmark` shows where that goes.
+waits for is the answer to its question for all rows: the first time and later. That takes the bus and the panel's own
+reading as well, so the goal is set against the processor's time of the program. `menu_benchmark` shows where that goes.
 """
 
 import argparse
@@ -63,9 +64,12 @@ class Running:
         )
 
     def sample(self, shown: int) -> Sample:
+        return Sample((shown - self.started) / NANOSECONDS_IN_A_MILLISECOND, self.processor())
+
+    def processor(self) -> float:
+        """The time that it has taken until now, in milliseconds."""
         # The clock of a process that Linux makes of its number: all threads, those that have ended among them.
-        processor = time.clock_gettime_ns((~self._process.pid << 3) | 2)
-        return Sample((shown - self.started) / NANOSECONDS_IN_A_MILLISECOND, processor / NANOSECONDS_IN_A_MILLISECOND)
+        return time.clock_gettime_ns((~self._process.pid << 3) | 2) / NANOSECONDS_IN_A_MILLISECOND
 
     def pids(self) -> list[int]:
         return [each.pid for each in descendants() if each.session == self._process.pid]
@@ -258,19 +262,26 @@ def measure_menu_in_window_tray(tray: WindowTray, programs: Sequence[Program]) -
 
 
 def measure_menu_in_bus_tray(tray: BusTray, program: Program) -> None:
-    first, later = (Contender(name, lambda: Sample(tray.ask_for_rows() / NANOSECONDS_IN_A_MILLISECOND))
-                    for name in ("the first time", "later"))
+    started: list[Running] = []
+
+    def ask() -> Sample:
+        before = started[-1].processor()
+        elapsed = tray.ask_for_rows() / NANOSECONDS_IN_A_MILLISECOND
+        return Sample(elapsed, started[-1].processor() - before)
+
+    first, later = (Contender(name, ask) for name in ("the first time", "later"))
     for _ in range(FRESH_STARTS):
-        running = program.start()
+        started.append(program.start())
         tray.wait_for_symbol()
-        wait_until_quiet(running)
+        wait_until_quiet(started[-1])
         first.samples.append(first.run())
         later.samples.append(later.run())
-        running.stop()
+        started[-1].stop()
         tray.wait_until_left()
     print(table(f"{program.name}'s answer to a panel that asks for {PROFILES} profiles", [first, later], first))
     for contender in (first, later):
-        print(verdict(f"{contender.name} in less than {MENU_GOAL:.0f} ms", contender.median, MENU_GOAL))
+        goal = f"{contender.name} in less than {MENU_GOAL:.0f} ms of the processor"
+        print(verdict(goal, contender.processor or 0.0, MENU_GOAL))
 
 
 def share_folders(home: Home) -> None:

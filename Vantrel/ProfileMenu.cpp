@@ -2,6 +2,8 @@
 
 #include <QCoreApplication>
 
+#include <memory>
+
 using namespace Qt::StringLiterals;
 
 namespace vantrel {
@@ -24,20 +26,28 @@ MenuItem command(const QString &id, const QString &title, const std::function<vo
     return {.title = title, .id = id, .shortcut = shortcut, .action = action};
 }
 
-MenuItem profileRow(const Profile &profile, const QString &title, const ProfileMenuActions &actions)
+using SharedActions = std::shared_ptr<const ProfileMenuActions>;
+
+MenuItem profileRow(const Profile &profile, const QString &title, const SharedActions &actions)
 {
+    // What a row does is copied with the row, and more often than rows are looked at.
+    struct Row {
+        Profile profile;
+        SharedActions actions;
+    };
+    const auto row = std::make_shared<const Row>(profile, actions);
     return {
         .title = title,
         .id = "profile."_L1 + profile.id(),
-        .shortcut = actions.shortcut ? actions.shortcut(profile) : QKeySequence(),
-        .icon = [profile, icon = actions.icon](int pixels) { return icon(profile, pixels); },
-        .iconPNG = [profile, icon = actions.iconPNG](int pixels) { return icon(profile, pixels); },
-        .action = [profile, open = actions.open] { open(profile); },
+        .shortcut = actions->shortcut ? actions->shortcut(profile) : QKeySequence(),
+        .icon = [row](int pixels) { return row->actions->icon(row->profile, pixels); },
+        .iconPNG = [row](int pixels) { return row->actions->iconPNG(row->profile, pixels); },
+        .action = [row] { row->actions->open(row->profile); },
     };
 }
 
 void appendSection(Menu &menu, const ProfileStore::MenuSection &section, const ProfileStore &store,
-                   const ProfileMenuActions &actions)
+                   const SharedActions &actions)
 {
     menu.append({.kind = Kind::header, .title = section.browser.name});
     for (const Profile &profile : section.profiles)
@@ -50,8 +60,9 @@ Menu profileMenu(const ProfileStore &store, const ProfileMenuActions &actions)
 {
     Menu menu;
     const QList<ProfileStore::MenuSection> sections = store.menuSections();
+    const auto shared = std::make_shared<const ProfileMenuActions>(actions);
     for (const ProfileStore::MenuSection &section : sections)
-        appendSection(menu, section, store, actions);
+        appendSection(menu, section, store, shared);
     if (sections.isEmpty()) {
         //: Disabled text in the menu when there is no profile to choose.
         menu.append({.kind = Kind::text, .title = Texts::tr("No profiles to show")});

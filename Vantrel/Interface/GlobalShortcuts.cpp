@@ -19,6 +19,7 @@ GlobalShortcuts::GlobalShortcuts(const Environment &environment)
       texts_(shortcuts_, keyboard_, environment.conventions)
 {
     connect(&shortcuts_, &KeyboardShortcuts::shortcutByNameDidChange, this, &GlobalShortcuts::updateKeyEquivalents);
+    connect(&store_, &ProfileStore::profilesChanged, this, &GlobalShortcuts::updateKeyEquivalents);
     const auto change = [this] {
         updateKeyEquivalents();
         Q_EMIT keyboardChanged();
@@ -26,9 +27,10 @@ GlobalShortcuts::GlobalShortcuts(const Environment &environment)
     keyboard_.layout->onChange(change);
     keyboard_.hotKeys->onChange(change);
     hotkeys_.start();
+    updateKeyEquivalents();
 }
 
-QKeySequence GlobalShortcuts::keyEquivalentOf(const Profile &profile) const
+QKeySequence GlobalShortcuts::currentKeyEquivalentOf(const Profile &profile) const
 {
     return keyEquivalent(shortcuts_.getShortcut(ProfileHotkeys::shortcutName(profile)), *keyboard_.layout,
                          conventions_.qtKeyNames);
@@ -38,7 +40,7 @@ void GlobalShortcuts::updateKeyEquivalents()
 {
     QHash<QString, QKeySequence> keys;
     for (const Profile &profile : store_.profiles()) {
-        if (const QKeySequence key = keyEquivalentOf(profile); !key.isEmpty())
+        if (const QKeySequence key = currentKeyEquivalentOf(profile); !key.isEmpty())
             keys.insert(profile.id(), key);
     }
     // Another keyboard is news of the layout as well, and with most of them nothing looks different.

@@ -37,7 +37,10 @@ public:
     [[nodiscard]] KeyEventReader keyReader() const { return keyEventReader(keyboard_.keyNumber); }
 
     /// What the menus show beside the profile; empty without a shortcut.
-    [[nodiscard]] QKeySequence keyEquivalentOf(const Profile &profile) const;
+    [[nodiscard]] QKeySequence keyEquivalentOf(const Profile &profile) const
+    {
+        return keyEquivalents_.value(profile.id());
+    }
 
 Q_SIGNALS:
     /// What the menus show is another.
@@ -47,6 +50,7 @@ Q_SIGNALS:
 
 private:
     void updateKeyEquivalents();
+    [[nodiscard]] QKeySequence currentKeyEquivalentOf(const Profile &profile) const;
     [[nodiscard]] QString descriptionOf(std::uint32_t keyCode, std::uint32_t modifiers) const;
 
     const ProfileStore &store_;
@@ -55,7 +59,7 @@ private:
     KeyboardShortcuts shortcuts_;
     ProfileHotkeys hotkeys_;
     ShortcutTexts texts_;
-    /// By the profiles' ids; only of those that have one.
+    /// By the profiles' ids; only of those that have one. The defaults take a while to ask about a thousand rows.
     QHash<QString, QKeySequence> keyEquivalents_;
 };
 

@@ -24,6 +24,14 @@ constexpr double glassesShare = 0.42;
 constexpr int leastGlasses = 8;
 constexpr double letterShare = 0.5;
 
+/// Copies of one picture are the same without a look at all that they hold.
+bool isSamePicture(const std::optional<QByteArray> &one, const std::optional<QByteArray> &other)
+{
+    if (!one || !other)
+        return one.has_value() == other.has_value();
+    return (one->constData() == other->constData() && one->size() == other->size()) || *one == *other;
+}
+
 QImage readAvatar(const QByteArray &content)
 {
     QBuffer file;
@@ -133,6 +141,12 @@ QImage ProfileIcon::image(int pixels) const
     painter.end();
     // An image keeps what has painted it for the next time, which takes more memory than a small one itself.
     return image.copy();
+}
+
+bool operator==(const ProfileIcon &one, const ProfileIcon &other)
+{
+    return one.isPrivate == other.isPrivate && one.id == other.id && one.displayName == other.displayName &&
+           isSamePicture(one.avatar, other.avatar);
 }
 
 } // namespace vantrel

@@ -31,7 +31,7 @@ struct ProfileIcon {
     /// The icon on a transparent square with a side of that many device pixels; a null image for less than one.
     [[nodiscard]] QImage image(int pixels) const;
 
-    friend bool operator==(const ProfileIcon &, const ProfileIcon &) = default;
+    friend bool operator==(const ProfileIcon &one, const ProfileIcon &other);
 };
 
 } // namespace vantrel
