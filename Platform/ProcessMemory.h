@@ -7,8 +7,8 @@ namespace vantrel::ProcessMemory {
 /// are other threads.
 void keepSmall();
 
-/// Gives back what is free now, and the code that is not in use this very moment, which is read again when it is needed:
-/// for the end of a busy moment. From any thread.
+/// Gives back what is free now, and the code that is not in use this very moment, which is read again when it is
+/// needed: for the end of a busy moment. From any thread.
 void giveBack();
 
 } // namespace vantrel::ProcessMemory

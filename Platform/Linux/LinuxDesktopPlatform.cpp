@@ -36,17 +36,19 @@ DesktopPlatform DesktopPlatform::create(Platform &platform)
 {
     const QProcessEnvironment variables = QProcessEnvironment::systemEnvironment();
     const QDBusConnection bus = sessionBus(variables);
+    auto log = std::make_unique<StandardErrorLog>(variables);
+    LogSink &sink = *log;
     auto profileService = std::make_unique<BusProfileService>(bus, ActivationMessage::objectPath());
     auto instance = std::make_unique<LinuxApplicationInstance>(bus, instanceSocketPath(variables),
                                                                InstanceClient::defaultPatience, profileService.get());
     return {
-        .log = std::make_unique<StandardErrorLog>(variables),
+        .log = std::move(log),
         .profileService = std::move(profileService),
         .searchIndex = nullptr,
         .actionService = nullptr,
         .instance = std::move(instance),
         .runningApplications =
-            std::make_unique<BrowserProcessesThread>(*platform.browserData, bus, SingletonContext::current()),
+            std::make_unique<BrowserProcessesThread>(*platform.browserData, bus, SingletonContext::current(), sink),
         .activationPolicy = std::make_unique<LinuxActivationPolicy>(),
         .userDefaults =
             std::make_unique<LinuxUserDefaults>(LinuxUserDefaults::defaultPath(Environment::from(variables))),

@@ -40,11 +40,12 @@ QString namedProfile(const QString &dataFolder, const QString &busName)
 
 } // namespace
 
-BrowserProcesses::BrowserProcesses(const BrowserData &data, const QDBusConnection &bus, SingletonContext context)
+BrowserProcesses::BrowserProcesses(const BrowserData &data, const QDBusConnection &bus, SingletonContext context,
+                                   LogSink &log)
     : data_(data),
       context_(std::move(context)),
       instances_([this](const QStringList &folders) { takeEnd(folders); }),
-      folders_([this](const QString &folder, QByteArrayView name) { takeCreation(folder, name); }),
+      folders_([this](const QString &folder, QByteArrayView name) { takeCreation(folder, name); }, log),
       busNames_(bus, {.appeared = [this](const QString &name) { takeBusName(name); },
                       .lost = [this] { followFirefoxFolders(); }})
 {

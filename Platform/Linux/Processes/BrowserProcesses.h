@@ -21,8 +21,9 @@ namespace vantrel {
 /// of it belongs to the thread on which it was made.
 class BrowserProcesses final : public RunningApplications {
 public:
-    /// `bus` is the session's; without a connection, profiles' folders are watched instead.
-    BrowserProcesses(const BrowserData &data, const QDBusConnection &bus, SingletonContext context);
+    /// `bus` is the session's; without a connection, profiles' folders are watched instead. `data` and `log` must
+    /// outlive it.
+    BrowserProcesses(const BrowserData &data, const QDBusConnection &bus, SingletonContext context, LogSink &log);
 
     /// Looks at the locks now, so that it is right also when an event is still to come.
     [[nodiscard]] bool isRunning(const QString &bundleID) const override;

@@ -5,7 +5,7 @@
 namespace vantrel {
 
 BrowserProcessesThread::BrowserProcessesThread(const BrowserData &data, const QDBusConnection &bus,
-                                               const SingletonContext &context)
+                                               const SingletonContext &context, LogSink &log)
     : host_(std::make_unique<QObject>())
 {
     thread_.setObjectName(QStringLiteral("BrowserProcesses"));
@@ -13,7 +13,7 @@ BrowserProcessesThread::BrowserProcessesThread(const BrowserData &data, const QD
     thread_.start();
     QMetaObject::invokeMethod(
         host_.get(),
-        [this, &data, bus, context] { processes_ = std::make_unique<BrowserProcesses>(data, bus, context); },
+        [this, &data, bus, context, &log] { processes_ = std::make_unique<BrowserProcesses>(data, bus, context, log); },
         Qt::QueuedConnection);
 }
 

@@ -12,8 +12,9 @@ namespace vantrel {
 /// only.
 class BrowserProcessesThread final : public RunningApplications {
 public:
-    /// As for BrowserProcesses; `data` is used on the other thread.
-    BrowserProcessesThread(const BrowserData &data, const QDBusConnection &bus, const SingletonContext &context);
+    /// As for BrowserProcesses; `data` and `log` are used on the other thread.
+    BrowserProcessesThread(const BrowserData &data, const QDBusConnection &bus, const SingletonContext &context,
+                           LogSink &log);
     ~BrowserProcessesThread() override;
     Q_DISABLE_COPY_MOVE(BrowserProcessesThread)
 

@@ -10,6 +10,8 @@
 #include <cerrno>
 #include <cstring>
 
+using namespace Qt::StringLiterals;
+
 namespace vantrel {
 namespace {
 
@@ -52,7 +54,7 @@ void FolderWatch::open()
         return;
     inotify_ = OwnedDescriptor(inotify_init1(IN_NONBLOCK | IN_CLOEXEC));
     if (!inotify_.isOpen()) {
-        qWarning("Folders can't be watched: %s.", qUtf8Printable(qt_error_string(errno)));
+        log_.error("Folders can't be watched: %{public}s"_L1, {qt_error_string(errno)});
         return;
     }
     notifier_ = std::make_unique<QSocketNotifier>(inotify_.number(), QSocketNotifier::Read);
@@ -79,7 +81,7 @@ FolderWatch::Place FolderWatch::nearestWatch(const QString &folder) const
         if (watch >= 0)
             return {watch, path};
         if (errno != ENOENT && errno != ENOTDIR) {
-            qWarning("%s can't be watched: %s.", qUtf8Printable(path), qUtf8Printable(qt_error_string(errno)));
+            log_.error("%{private}s can't be watched: %{public}s"_L1, {path, qt_error_string(errno)});
             return {};
         }
     }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Platform/Linux/OwnedDescriptor.h"
+#include "Platform/LogChannel.h"
 
 #include <QByteArrayView>
 #include <QHash>
@@ -20,7 +21,8 @@ public:
     /// folder itself has.
     using Created = std::function<void(const QString &folder, QByteArrayView name)>;
 
-    explicit FolderWatch(Created created) : created_(std::move(created)) {}
+    /// What can't be watched is said in the log, which must outlive it.
+    FolderWatch(Created created, LogSink &log) : created_(std::move(created)), log_(log, QStringLiteral("Profiles")) {}
 
     /// Follows a folder that need not exist: until it does, what it will be in is watched. A folder that is followed
     /// already isn't followed twice.
@@ -45,6 +47,7 @@ private:
     void placeAgain(const QString &folder);
 
     Created created_;
+    LogChannel log_;
     OwnedDescriptor inotify_;
     std::unique_ptr<QSocketNotifier> notifier_;
     QHash<QString, Place> places_;

@@ -4,7 +4,8 @@
 
 #pragma clang assume_nonnull begin
 
-// https://developer.apple.com/documentation/oslog/oslogentry and its kinds: what was logged with a format, put together.
+// https://developer.apple.com/documentation/oslog/oslogentry and its kinds: what was logged with a format, put
+// together.
 @interface OSLogEntry : NSObject <NSSecureCoding>
 @property(nonatomic, readonly) NSString *composedMessage;
 @property(nonatomic, readonly) NSDate *date;

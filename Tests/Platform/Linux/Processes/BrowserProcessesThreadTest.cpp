@@ -39,7 +39,7 @@ protected:
     QStringList reports_;
     DataBeside dataBeside_{data_};
     std::optional<BrowserProcessesThread> beside_{std::in_place, dataBeside_, test::noBus(),
-                                                  SingletonContext{test::hostName, folder_.path(u"runtime"_s)}};
+                                                  SingletonContext{test::hostName, folder_.path(u"runtime"_s)}, log_};
 };
 
 TEST_F(BrowserProcessesThreadTest, AnswersAsWhatItRunsDoes)

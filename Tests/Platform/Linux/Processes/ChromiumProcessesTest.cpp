@@ -307,6 +307,13 @@ TEST_F(ChromiumProcessesTest, WhoIsToldMayEndTheWatch)
     EXPECT_EQ(told_, QStringList(chrome));
 }
 
+TEST_F(ChromiumProcessesTest, AFolderThatCanNotBeWatchedIsSaid)
+{
+    data_.setFolder(test::chrome, folder_.path(QString(300, u'x')));
+    watch({test::chrome});
+    EXPECT_EQ(log_.takeLines(), QStringList(u"[Profiles] error: <private> can't be watched: File name too long"_s));
+}
+
 TEST_F(ChromiumProcessesTest, EndedProcessesLeaveNothingOpen)
 {
     watch({chrome, brave});

@@ -3,6 +3,7 @@
 #include "Platform/Linux/Processes/BrowserProcesses.h"
 #include "Tests/Contract/RunningApplicationsContract.h"
 #include "Tests/Fakes/FakeBrowserData.h"
+#include "Tests/Fakes/FakeLog.h"
 #include "Tests/Platform/Linux/Processes/StandIn.h"
 #include "Tests/VantrelKit/TemporaryFolder.h"
 
@@ -36,7 +37,7 @@ protected:
 
     void create(const QDBusConnection &bus)
     {
-        processes_.emplace(data_, bus, SingletonContext{hostName, folder_.path(QStringLiteral("runtime"))});
+        processes_.emplace(data_, bus, SingletonContext{hostName, folder_.path(QStringLiteral("runtime"))}, log_);
     }
 
     void watch(const QStringList &bundleIDs)
@@ -86,6 +87,7 @@ private:
 protected:
     TemporaryFolder folder_;
     FakeBrowserData data_;
+    FakeLog log_;
     QStringList told_;
     std::optional<BrowserProcesses> processes_;
 };

@@ -2,6 +2,7 @@
 
 #include "Platform/Linux/Processes/BrowserProcesses.h"
 #include "Tests/Fakes/FakeBrowserData.h"
+#include "Tests/Fakes/FakeLog.h"
 #include "Tests/Fakes/FakeRunningApplications.h"
 #include "Tests/Platform/Linux/Processes/StandIn.h"
 #include "Tests/VantrelKit/TemporaryFolder.h"
@@ -38,7 +39,7 @@ public:
         data_.setFolders(first(), {{.path = folder_.path(u"chrome 1"_s)}, {.path = folder_.path(u"chrome 2"_s)}});
         data_.setFolder(second(), folder_.path(u"firefox"_s));
         const SingletonContext context{u"host"_s, folder_.path(u"runtime"_s)};
-        applications_.emplace(data_, QDBusConnection(u"no bus"_s), context);
+        applications_.emplace(data_, QDBusConnection(u"no bus"_s), context, log_);
     }
 
     RunningApplications &applications() { return *applications_; }
@@ -66,6 +67,7 @@ public:
 private:
     test::TemporaryFolder folder_;
     test::FakeBrowserData data_;
+    test::FakeLog log_;
     std::map<QString, std::vector<std::unique_ptr<test::StandIn>>> instances_;
     std::optional<BrowserProcesses> applications_;
 };
