@@ -21,11 +21,14 @@ void sideBySide(size_t count, const Work &work)
             work(index);
     };
     const size_t threadCount = std::min<size_t>(count, std::thread::hardware_concurrency() + 1);
-    std::vector<std::jthread> threads;
+    // Apple's C++ library had no joining threads for long.
+    std::vector<std::thread> threads;
     threads.reserve(threadCount);
     for (size_t started = 1; started < threadCount; ++started)
         threads.emplace_back(takeTurns);
     takeTurns();
+    for (std::thread &thread : threads)
+        thread.join();
 }
 
 } // namespace vantrel

@@ -95,14 +95,15 @@ TYPED_TEST_P(BrowserDataContract, FoldersAreFoundOnAnyThread)
     const QString bundleID = this->system_.withSeveralFolders();
     const QList<BrowserDataFolder> expected = this->folders(bundleID);
     std::vector<QList<BrowserDataFolder>> found(4);
-    std::vector<std::jthread> threads;
+    std::vector<std::thread> threads;
     for (auto &place : found) {
         threads.emplace_back([this, &place, &bundleID] {
             for (int time = 0; time < 25; ++time)
                 place = this->folders(bundleID);
         });
     }
-    threads.clear();
+    for (std::thread &thread : threads)
+        thread.join();
     for (const auto &place : found)
         EXPECT_EQ(place, expected);
 }

@@ -85,14 +85,15 @@ TYPED_TEST_P(LogSinkContract, LinesOfSeveralThreadsArriveWholeAndOnceEachThreads
     constexpr int threadCount = 4;
     constexpr int lineCount = 40;
     const QString rest = QStringLiteral(" of many").repeated(20);
-    std::vector<std::jthread> threads;
+    std::vector<std::thread> threads;
     for (int thread = 0; thread < threadCount; ++thread) {
         threads.emplace_back([this, thread, &rest] {
             for (int line = 0; line < lineCount; ++line)
                 this->write(QString::number(line) + rest, QString::number(thread));
         });
     }
-    threads.clear();
+    for (std::thread &thread : threads)
+        thread.join();
     const QStringList lines = this->system_.lines(qsizetype{threadCount} * lineCount);
     EXPECT_EQ(lines.size(), qsizetype{threadCount} * lineCount);
     for (int thread = 0; thread < threadCount; ++thread) {

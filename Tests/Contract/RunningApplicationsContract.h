@@ -43,7 +43,7 @@ concept RunningApplicationsSystem =
         { system.second() } -> std::same_as<QString>;
         /// Done once the instance runs.
         { system.start(bundleID) } -> std::same_as<void>;
-        /// Ends the instance started last. Done once it has ended.
+        /// Ends the instance started last. Done once it has ended, without the event loop, which may tell of it.
         { system.end(bundleID) } -> std::same_as<void>;
         /// Makes an end to the implementation.
         { system.destroyApplications() } -> std::same_as<void>;
@@ -93,7 +93,8 @@ TYPED_TEST_P(RunningApplicationsContract, AnApplicationRunsFromItsStartToItsEndA
     EXPECT_TRUE(this->isRunning(first));
     EXPECT_FALSE(this->isRunning(this->system_->second()));
     this->system_->end(first);
-    EXPECT_FALSE(this->isRunning(first));
+    // The event loop may have to hear of it.
+    EXPECT_TRUE(waitUntil([this, &first] { return !this->isRunning(first); }));
 }
 
 TYPED_TEST_P(RunningApplicationsContract, UnknownApplicationsNeverRun)

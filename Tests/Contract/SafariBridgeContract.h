@@ -21,7 +21,7 @@ concept SafariBridgeSystem = std::default_initializable<System> && requires(Syst
     { system.installed() } -> std::same_as<QString>;
     { system.url() } -> std::same_as<QUrl>;
     { system.unknown() } -> std::same_as<QString>;
-    /// Ends the application. Done once it has ended.
+    /// Ends the application, which may take a moment.
     { system.end() } -> std::same_as<void>;
 };
 

@@ -163,14 +163,15 @@ TYPED_TEST_P(WorkspaceContract, ApplicationsAreFoundOnAnyThread)
 {
     const auto expected = this->workspace().applicationWithBundleIdentifier(this->system_.installed());
     std::vector<std::optional<Application>> found(4);
-    std::vector<std::jthread> threads;
+    std::vector<std::thread> threads;
     for (auto &place : found) {
         threads.emplace_back([this, &place] {
             for (int time = 0; time < 25; ++time)
                 place = this->workspace().applicationWithBundleIdentifier(this->system_.installed());
         });
     }
-    threads.clear();
+    for (std::thread &thread : threads)
+        thread.join();
     for (const auto &place : found)
         EXPECT_EQ(place, expected);
 }

@@ -40,6 +40,14 @@ bool writesAll(int descriptor, const QByteArray &bytes)
     _exit(writesAll(descriptor, check().toUtf8()) ? EXIT_SUCCESS : EXIT_FAILURE);
 }
 
+/// Closed in programs that the check starts: one that outlives the check must not keep the reader waiting. macOS has no
+/// call that does both at once.
+bool makePipe(std::array<int, 2> &ends)
+{
+    return pipe(ends.data()) == 0 && fcntl(ends[0], F_SETFD, FD_CLOEXEC) == 0 &&
+           fcntl(ends[1], F_SETFD, FD_CLOEXEC) == 0;
+}
+
 QByteArray readToEnd(int descriptor)
 {
     QByteArray bytes;
@@ -54,8 +62,7 @@ QByteArray readToEnd(int descriptor)
 QString answerOfUnprivilegedProcess(const std::function<QString()> &check)
 {
     std::array<int, 2> pipeEnds{};
-    // Closed in programs that the check starts: one that outlives the check must not keep the reader waiting.
-    if (pipe2(pipeEnds.data(), O_CLOEXEC) != 0)
+    if (!makePipe(pipeEnds))
         return u"No pipe could be made."_s;
     const pid_t process = fork();
     if (process < 0)

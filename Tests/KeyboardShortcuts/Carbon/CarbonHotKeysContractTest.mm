@@ -1,4 +1,6 @@
 #include "KeyboardShortcuts/Carbon/CarbonHotKeys.h"
+
+#include "KeyboardShortcuts/ModifierFlags.h"
 #include "Tests/Contract/HotKeyPortContract.h"
 
 #include <QApplication>
@@ -11,6 +13,7 @@
 #include <CoreGraphics/CGEvent.h>
 
 #include <array>
+#include <vector>
 
 using namespace Qt::StringLiterals;
 
@@ -21,21 +24,26 @@ constexpr std::uint32_t keyF19 = 0x50;
 constexpr std::uint32_t keyRightShift = 0x3c;
 constexpr int patience = 30'000;
 
-/// A hotkey that the tests alone use: the system tells of it after all that was typed before.
+/// A key that the tests alone use: the system tells of it after all that was typed before. It is a hotkey with all
+/// modifiers that may be down then, for with each it is another combination.
 class Marker {
 public:
     Marker()
     {
         constexpr EventTypeSpec pressed{kEventClassKeyboard, kEventHotKeyPressed};
         EXPECT_EQ(InstallEventHandler(GetEventDispatcherTarget(), &Marker::take, 1, &pressed, this, &handler_), noErr);
-        EXPECT_EQ(RegisterEventHotKey(keyF19, 0, EventHotKeyID{signature, 1}, GetEventDispatcherTarget(),
-                                      kEventHotKeyNoOptions, &hotKey_),
-                  noErr);
+        for (const UInt32 shift : {0U, CarbonModifier::shift}) {
+            for (const UInt32 option : {0U, CarbonModifier::option}) {
+                for (const UInt32 control : {0U, CarbonModifier::control})
+                    add(shift | option | control);
+            }
+        }
     }
 
     ~Marker()
     {
-        UnregisterEventHotKey(hotKey_);
+        for (EventHotKeyRef hotKey : hotKeys_)
+            UnregisterEventHotKey(hotKey);
         RemoveEventHandler(handler_);
     }
 
@@ -45,6 +53,15 @@ public:
 
 private:
     static constexpr OSType signature = 0x4D61726B; // "Mark"
+
+    void add(UInt32 modifiers)
+    {
+        EventHotKeyRef hotKey = nullptr;
+        const EventHotKeyID id{signature, static_cast<UInt32>(hotKeys_.size())};
+        EXPECT_EQ(RegisterEventHotKey(keyF19, modifiers, id, GetEventDispatcherTarget(), kEventHotKeyNoOptions, &hotKey),
+                  noErr);
+        hotKeys_.push_back(hotKey);
+    }
 
     static OSStatus take(EventHandlerCallRef /*next*/, EventRef event, void *marker)
     {
@@ -57,7 +74,7 @@ private:
     }
 
     EventHandlerRef handler_ = nullptr;
-    EventHotKeyRef hotKey_ = nullptr;
+    std::vector<EventHotKeyRef> hotKeys_;
     int count_ = 0;
 };
 
@@ -145,10 +162,12 @@ private:
     {
         post(keyRightShift, true, 0);
         post(keyRightShift, false, 0);
+        // For both, however many others come meanwhile.
+        NSDate *const end = [NSDate dateWithTimeIntervalSinceNow:patience / 1000.0];
         int seen = 0;
         while (seen < 2) {
             NSEvent *const event = [NSApp nextEventMatchingMask:NSEventMaskAny
-                                                      untilDate:[NSDate dateWithTimeIntervalSinceNow:patience / 1000.0]
+                                                      untilDate:end
                                                          inMode:NSEventTrackingRunLoopMode
                                                         dequeue:YES];
             ASSERT_NE(event, nil) << "The keyboard's events don't come to this program.";

@@ -4,8 +4,6 @@
 #include "Tests/Platform/MacOS/StandInBundle.h"
 #include "Tests/VantrelKit/Samples.h"
 
-#import <AppKit/AppKit.h>
-
 using namespace Qt::StringLiterals;
 
 namespace vantrel {
@@ -18,13 +16,7 @@ public:
     static QString installed() { return u"com.slimjet.browser"_s; }
     QUrl url() { return bundle_.url(); }
     static QString unknown() { return test::unknownBrowser; }
-
-    static void end()
-    {
-        for (NSRunningApplication *application in
-             [NSRunningApplication runningApplicationsWithBundleIdentifier:installed().toNSString()])
-            EXPECT_TRUE([application forceTerminate]);
-    }
+    void end() { bundle_.endAll(); }
 
 private:
     int argumentCount_ = 1;

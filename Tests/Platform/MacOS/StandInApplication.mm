@@ -1,7 +1,9 @@
 // What tests start in place of a browser: writes its arguments, each with a zero behind it, to a file beside its bundle
-// that is named as the bundle with ".arguments", and runs until it is told to end.
+// that is named as the bundle with ".arguments", and runs until it is told to end. Should nobody be left to tell it, it
+// ends by itself.
 
 #import <AppKit/AppKit.h>
+#include <unistd.h>
 
 #include <filesystem>
 #include <fstream>
@@ -9,6 +11,7 @@
 
 int main(int argc, char *argv[])
 {
+    alarm(600);
     @autoreleasepool {
         const std::filesystem::path bundle = NSBundle.mainBundle.bundleURL.path.UTF8String;
         const std::string target = bundle.string() + ".arguments";

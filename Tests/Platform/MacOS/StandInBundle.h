@@ -20,10 +20,12 @@ public:
 
     [[nodiscard]] QUrl url() const;
 
-    /// Starts another instance. Done once the system lists it.
+    /// Starts another instance. Done once the system lists it, and it is ready.
     void start();
-    /// Ends the instance that was started last. Done once it has ended.
+    /// Ends the instance that was started last. Done once it has ended, of which the event loop hears later.
     void end();
+    /// Ends those that the system lists, whoever started them. Doesn't wait.
+    void endAll() const;
 
     /// The arguments of the latest instance, which are waited for and then forgotten. None when there is none in time.
     [[nodiscard]] std::optional<QStringList> takeArguments();

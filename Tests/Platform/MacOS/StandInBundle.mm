@@ -4,13 +4,17 @@
 #include "VantrelKit/PropertyList.h"
 
 #include <QCoroTask>
+#include <QDeadlineTimer>
 #include <QFile>
+#include <QFileInfo>
 #include <QTest>
+#include <QThread>
 
 #import <AppKit/AppKit.h>
 #import <ApplicationServices/ApplicationServices.h>
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <csignal>
 
 using namespace Qt::StringLiterals;
@@ -24,6 +28,18 @@ const QString name = u"Stand-in.app"_s;
 bool isThere(qint64 process)
 {
     return kill(static_cast<pid_t>(process), 0) == 0;
+}
+
+/// Whether the system has heard from it that it is ready. Before, its end need not be news.
+bool isReady(qint64 process)
+{
+    return [NSRunningApplication runningApplicationWithProcessIdentifier:static_cast<pid_t>(process)]
+               .finishedLaunching == YES;
+}
+
+QString realPath(const QUrl &bundle)
+{
+    return QFileInfo(bundle.toLocalFile()).canonicalFilePath();
 }
 
 } // namespace
@@ -47,8 +63,7 @@ StandInBundle::StandInBundle(QString bundleID, State state) : bundleID_(std::mov
 
 StandInBundle::~StandInBundle()
 {
-    for (const qint64 process : processes())
-        kill(static_cast<pid_t>(process), SIGKILL);
+    endAll();
 }
 
 QUrl StandInBundle::url() const
@@ -60,8 +75,13 @@ QList<qint64> StandInBundle::processes() const
 {
     QList<qint64> found;
     for (NSRunningApplication *application in
-         [NSRunningApplication runningApplicationsWithBundleIdentifier:bundleID_.toNSString()])
-        found.append(application.processIdentifier);
+         [NSRunningApplication runningApplicationsWithBundleIdentifier:bundleID_.toNSString()]) {
+        // One that has ended may have no number, which -1 stands for: as an address of signals that means everybody.
+        const bool isProcess = !application.terminated && application.processIdentifier > 0;
+        // The user may have the browser, too.
+        if (isProcess && realPath(QUrl::fromNSURL(application.bundleURL)) == realPath(url()))
+            found.append(application.processIdentifier);
+    }
     return found;
 }
 
@@ -72,13 +92,17 @@ void StandInBundle::start()
         .application = url(), .instance = Opening::Instance::another, .appearance = Opening::Appearance::background};
     const auto opened = QCoro::waitFor(open(opening));
     ASSERT_TRUE(opened.has_value()) << opened.error().message.toStdString();
-    ASSERT_TRUE(QTest::qWaitFor([&] { return processes().size() > before.size(); }, patience));
-    // By then it has told the system that it is ready, and its end is news.
+    const auto takeStarted = [&] {
+        const QList<qint64> now = processes();
+        const auto started = std::ranges::find_if(
+            now, [&](qint64 process) { return !before.contains(process) && isReady(process); });
+        if (started == now.end())
+            return false;
+        started_.append(*started);
+        return true;
+    };
+    ASSERT_TRUE(QTest::qWaitFor(takeStarted, patience));
     EXPECT_TRUE(takeArguments().has_value());
-    for (const qint64 process : processes()) {
-        if (!before.contains(process))
-            started_.append(process);
-    }
 }
 
 void StandInBundle::end()
@@ -86,7 +110,17 @@ void StandInBundle::end()
     ASSERT_FALSE(started_.isEmpty());
     const qint64 process = started_.takeLast();
     kill(static_cast<pid_t>(process), SIGTERM);
-    EXPECT_TRUE(QTest::qWaitFor([&] { return !isThere(process) && !processes().contains(process); }, patience));
+    // Not in the event loop, which would tell of the end.
+    const QDeadlineTimer deadline(patience);
+    while (isThere(process) && !deadline.hasExpired())
+        QThread::msleep(5);
+    EXPECT_FALSE(isThere(process));
+}
+
+void StandInBundle::endAll() const
+{
+    for (const qint64 process : processes())
+        kill(static_cast<pid_t>(process), SIGKILL);
 }
 
 std::optional<QStringList> StandInBundle::takeArguments()

@@ -13,6 +13,7 @@
 + (nullable instancetype)runningApplicationWithProcessIdentifier:(pid_t)processIdentifier;
 @property(class, readonly, strong) NSRunningApplication *currentApplication;
 @property(readonly, getter=isTerminated) BOOL terminated;
+@property(readonly, getter=isFinishedLaunching) BOOL finishedLaunching;
 @property(nullable, readonly, copy) NSString *bundleIdentifier;
 @property(nullable, readonly, copy) NSURL *bundleURL;
 @property(readonly) pid_t processIdentifier;
