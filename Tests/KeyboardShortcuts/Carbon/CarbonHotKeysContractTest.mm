@@ -1,5 +1,4 @@
 #include "KeyboardShortcuts/Carbon/CarbonHotKeys.h"
-
 #include "KeyboardShortcuts/ModifierFlags.h"
 #include "Tests/Contract/HotKeyPortContract.h"
 
@@ -58,8 +57,9 @@ private:
     {
         EventHotKeyRef hotKey = nullptr;
         const EventHotKeyID id{signature, static_cast<UInt32>(hotKeys_.size())};
-        EXPECT_EQ(RegisterEventHotKey(keyF19, modifiers, id, GetEventDispatcherTarget(), kEventHotKeyNoOptions, &hotKey),
-                  noErr);
+        EXPECT_EQ(
+            RegisterEventHotKey(keyF19, modifiers, id, GetEventDispatcherTarget(), kEventHotKeyNoOptions, &hotKey),
+            noErr);
         hotKeys_.push_back(hotKey);
     }
 

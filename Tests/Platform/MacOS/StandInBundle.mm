@@ -33,8 +33,9 @@ bool isThere(qint64 process)
 /// Whether the system has heard from it that it is ready. Before, its end need not be news.
 bool isReady(qint64 process)
 {
-    return [NSRunningApplication runningApplicationWithProcessIdentifier:static_cast<pid_t>(process)]
-               .finishedLaunching == YES;
+    NSRunningApplication *application =
+        [NSRunningApplication runningApplicationWithProcessIdentifier:static_cast<pid_t>(process)];
+    return application.finishedLaunching == YES;
 }
 
 QString realPath(const QUrl &bundle)
@@ -94,8 +95,8 @@ void StandInBundle::start()
     ASSERT_TRUE(opened.has_value()) << opened.error().message.toStdString();
     const auto takeStarted = [&] {
         const QList<qint64> now = processes();
-        const auto started = std::ranges::find_if(
-            now, [&](qint64 process) { return !before.contains(process) && isReady(process); });
+        const auto started =
+            std::ranges::find_if(now, [&](qint64 process) { return !before.contains(process) && isReady(process); });
         if (started == now.end())
             return false;
         started_.append(*started);
