@@ -52,7 +52,8 @@ def wanted() -> dict[str, set[str]]:
     left = [literal for literal in re.findall(LITERAL, rest) if re.sub(r"\\\(.*?\)", "", literal)]
     if left:
         raise AssertionError(f"Are these for users? LOCALIZED or OTHERS is to say so: {left}")
-    return {"AppShortcuts.strings": {key(text) for text in phrases}, "Localizable.strings": {key(text) for text in texts}}
+    files = {"AppShortcuts.strings": phrases, "Localizable.strings": texts}
+    return {file: {key(text) for text in found} for file, found in files.items()}
 
 
 def strings(path: Path) -> dict[str, str]:
